@@ -1,0 +1,44 @@
+# How every target of this project is compiled: includes from the root, warnings on, hardened, or sanitized on request.
+include_guard(GLOBAL)
+
+add_library(tambrelle_options INTERFACE)
+target_include_directories(tambrelle_options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(tambrelle_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+  -Wold-style-cast -Wcast-align -Woverloaded-virtual -Wnull-dereference -Wimplicit-fallthrough)
+
+option(TAMBRELLE_WERROR "Treat warnings as errors" OFF)
+if(TAMBRELLE_WERROR)
+  target_compile_options(tambrelle_options INTERFACE -Werror)
+endif()
+
+if(TAMBRELLE_SANITIZE)
+  target_compile_options(tambrelle_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tambrelle_options INTERFACE -fsanitize=address,undefined)
+else()
+  target_compile_options(tambrelle_options INTERFACE
+    -fstack-protector-strong $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE> $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=3>)
+  target_link_options(tambrelle_options INTERFACE -Wl,-z,relro,-z,now)
+endif()
+
+include(CheckPIESupported)
+check_pie_supported()
+
+# tambrelle_library(NAME FILES...): a static library of one room, built with the options above.
+function(tambrelle_library name)
+  add_library(${name} STATIC ${ARGN})
+  target_link_libraries(${name} PUBLIC tambrelle_options)
+endfunction()
+
+# tambrelle_program(NAME FILES...): a program that lands at the top of the build tree.
+function(tambrelle_program name)
+  add_executable(${name} ${ARGN})
+  target_link_libraries(${name} PRIVATE tambrelle_options)
+endfunction()
+
+# tambrelle_test(NAME FILES...): a GoogleTest program, one ctest entry for each of its tests.
+function(tambrelle_test name)
+  tambrelle_program(${name} ${ARGN})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+endfunction()
