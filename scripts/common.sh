@@ -1,0 +1,51 @@
+# shellcheck shell=bash
+# Shared by ./run and ./check: where things are, how many cores, and steps with a name, a time and a log.
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$root" || exit 1
+export LC_ALL=C.UTF-8
+jobs=$(nproc)
+logs=$root/build/logs
+failed_steps=()
+
+now_ms() { date +%s%3N; }
+
+# step NAME COMMAND...: runs the command with its output in build/logs/NAME.log, prints the time it took, and on failure
+# the end of that log. The name of a failed step is remembered in failed_steps; the status is the command's own.
+step() {
+    local name=$1 begin status=0
+    shift
+    mkdir -p "$logs"
+    printf '== %-14s ' "$name"
+    begin=$(now_ms)
+    "$@" >"$logs/$name.log" 2>&1 || status=$?
+    local took=$(($(now_ms) - begin))
+    if [ "$status" = 0 ]; then
+        printf 'ok      %4d.%d s\n' $((took / 1000)) $((took % 1000 / 100))
+    else
+        printf 'FAILED  %4d.%d s, status %d; the end of build/logs/%s.log:\n' \
+            $((took / 1000)) $((took % 1000 / 100)) "$status" "$name"
+        tail -n 120 "$logs/$name.log"
+        failed_steps+=("$name")
+    fi
+    return "$status"
+}
+
+# install_packages PURPOSE...: not a step, because sudo may want to ask for a password.
+install_packages() {
+    local begin
+    begin=$(now_ms)
+    "$root/scripts/packages.sh" "$@" || exit 1
+    local took=$(($(now_ms) - begin))
+    printf '== %-14s ok      %4d.%d s\n' packages $((took / 1000)) $((took % 1000 / 100))
+}
+
+# configure PRESET [OPTION...]: ccache is used where it is installed.
+configure() {
+    local preset=$1 launcher=()
+    shift
+    command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    cmake --preset "$preset" "${launcher[@]}" "$@"
+}
+
+build() { cmake --build --preset "$1" -j "$jobs"; }
