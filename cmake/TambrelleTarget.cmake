@@ -4,8 +4,10 @@ include_guard(GLOBAL)
 add_library(tambrelle_options INTERFACE)
 target_include_directories(tambrelle_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(tambrelle_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
-  -Wold-style-cast -Wcast-align -Woverloaded-virtual -Wnull-dereference -Wimplicit-fallthrough)
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+  -Wold-style-cast -Wcast-align -Woverloaded-virtual -Wnull-dereference -Wimplicit-fallthrough
+  # A constructor's parameter may bear the name of the member that it fills; one local may not hide another.
+  $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>)
 
 option(TAMBRELLE_WERROR "Treat warnings as errors" OFF)
 if(TAMBRELLE_WERROR)

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+namespace tambrelle {
+
+/// A timer that fires on the main thread until it is destroyed.
+class RepeatingTimer {
+public:
+    virtual ~RepeatingTimer() = default;
+
+    /// Calls `action` every `interval` from now on; a timer already running is started anew.
+    virtual void start(std::chrono::milliseconds interval, std::function<void()> action) = 0;
+};
+
+} // namespace tambrelle

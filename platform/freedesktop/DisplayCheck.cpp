@@ -1,0 +1,58 @@
+#include "platform/freedesktop/DisplayCheck.h"
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <iterator>
+#include <span>
+#include <string_view>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+#include <xcb/xcb.h>
+
+namespace tambrelle {
+
+namespace {
+
+bool x11Answers() {
+    if (qEnvironmentVariableIsEmpty("DISPLAY"))
+        return false;
+    xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
+    const bool answers = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return answers;
+}
+
+bool waylandAnswers() {
+    const QByteArray name = qgetenv("WAYLAND_DISPLAY");
+    if (name.isEmpty())
+        return false;
+    const QByteArray path = name.startsWith('/') ? name : qgetenv("XDG_RUNTIME_DIR") + '/' + name;
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (path.size() >= static_cast<qsizetype>(sizeof address.sun_path))
+        return false;
+    std::copy(path.cbegin(), path.cend(), std::begin(address.sun_path));
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const bool answers = ::connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    ::close(socket);
+    return answers;
+}
+
+bool namesAnotherPlatform(std::span<const char* const> arguments) {
+    for (const std::string_view argument : arguments) {
+        if (argument == "-platform" || argument == "--platform")
+            return true;
+    }
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    return !platform.isEmpty() && !platform.startsWith("xcb") && !platform.startsWith("wayland");
+}
+
+} // namespace
+
+bool hasDisplay(int argc, const char* const* argv) {
+    return namesAnotherPlatform({argv, static_cast<std::size_t>(argc)}) || x11Answers() || waylandAnswers();
+}
+
+} // namespace tambrelle

@@ -1,0 +1,49 @@
+#include "platform/freedesktop/FreedesktopPlatform.h"
+
+#include "platform/freedesktop/AutostartLoginItem.h"
+#include "platform/freedesktop/EventLoopTimer.h"
+#include "platform/freedesktop/IniUserDefaults.h"
+#include "platform/freedesktop/InstalledResources.h"
+#include "platform/freedesktop/NoAudioPlayer.h"
+#include "platform/freedesktop/NoNotificationCenter.h"
+#include "platform/freedesktop/SystemClock.h"
+#include "platform/freedesktop/SystemRandomSource.h"
+#include "platform/freedesktop/ToolkitBeep.h"
+#include "platform/freedesktop/statusitem/FreedesktopStatusItem.h"
+
+#include <QCoreApplication>
+
+namespace tambrelle {
+
+struct FreedesktopPlatform::Parts {
+    SystemClock clock;
+    EventLoopTimer timer;
+    SystemRandomSource random;
+    IniUserDefaults defaults{IniUserDefaults::standardPath()};
+    InstalledResources resources;
+    NoAudioPlayer audioPlayer;
+    ToolkitBeep systemSound;
+    NoNotificationCenter notifications;
+    AutostartLoginItem loginItem{AutostartLoginItem::standardFolder(),
+                                 QCoreApplication::applicationFilePath()};
+    FreedesktopStatusItem statusItem;
+};
+
+FreedesktopPlatform::FreedesktopPlatform() : parts(std::make_unique<Parts>()) {}
+
+FreedesktopPlatform::~FreedesktopPlatform() = default;
+
+Platform FreedesktopPlatform::ports() {
+    return {.clock = parts->clock,
+            .timer = parts->timer,
+            .random = parts->random,
+            .defaults = parts->defaults,
+            .resources = parts->resources,
+            .audioPlayer = parts->audioPlayer,
+            .systemSound = parts->systemSound,
+            .notifications = parts->notifications,
+            .loginItem = parts->loginItem,
+            .statusItem = parts->statusItem};
+}
+
+} // namespace tambrelle

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/Platform.h"
+
+#include <memory>
+
+namespace tambrelle {
+
+/// Every port on a freedesktop desktop, made together and torn down together. Needs the toolkit's application
+/// object.
+class FreedesktopPlatform final {
+public:
+    FreedesktopPlatform();
+    ~FreedesktopPlatform();
+
+    FreedesktopPlatform(const FreedesktopPlatform&) = delete;
+    FreedesktopPlatform& operator=(const FreedesktopPlatform&) = delete;
+
+    /// Valid as long as this object.
+    [[nodiscard]] Platform ports();
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> parts;
+};
+
+} // namespace tambrelle

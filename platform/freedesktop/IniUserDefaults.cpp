@@ -1,0 +1,86 @@
+#include "platform/freedesktop/IniUserDefaults.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace tambrelle {
+
+namespace {
+
+/// Eight short lines need less than 1 KB; a file beyond this is not ours and is not worth the memory.
+constexpr qint64 largestSaneFile = 64 * 1024;
+
+std::unique_ptr<QSettings> openStore(const QString& path) {
+    return std::make_unique<QSettings>(path, QSettings::IniFormat);
+}
+
+/// Null where the file is damaged.
+std::unique_ptr<QSettings> openSaneStore(const QString& path) {
+    if (QFileInfo(path).size() > largestSaneFile)
+        return nullptr;
+    auto store = openStore(path);
+    return store->status() == QSettings::FormatError ? nullptr : std::move(store);
+}
+
+} // namespace
+
+IniUserDefaults::IniUserDefaults(const QString& path) : path(path), settings(openSaneStore(path)) {}
+
+IniUserDefaults::~IniUserDefaults() = default;
+
+QString IniUserDefaults::standardPath() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/tambrelle/tambrelle.conf");
+}
+
+std::optional<QString> IniUserDefaults::string(const QString& key) const {
+    const QVariant stored = value(key);
+    return stored.typeId() == QMetaType::QString ? std::optional(stored.toString()) : std::nullopt;
+}
+
+bool IniUserDefaults::boolean(const QString& key) const {
+    // The file holds text only, so a truth value comes back as the word that was written.
+    const QString word = value(key).toString();
+    return word == QLatin1String("true") || word == QLatin1String("1");
+}
+
+std::int64_t IniUserDefaults::integer(const QString& key) const {
+    return value(key).toString().toLongLong();
+}
+
+void IniUserDefaults::setString(const QString& key, const QString& value) {
+    set(key, value);
+}
+
+void IniUserDefaults::setBoolean(const QString& key, bool value) {
+    set(key, value);
+}
+
+void IniUserDefaults::setInteger(const QString& key, std::int64_t value) {
+    set(key, QVariant::fromValue<qlonglong>(value));
+}
+
+QVariant IniUserDefaults::value(const QString& key) const {
+    if (const auto found = assigned.constFind(key); found != assigned.cend())
+        return *found;
+    return settings ? settings->value(key) : QVariant();
+}
+
+void IniUserDefaults::set(const QString& key, const QVariant& value) {
+    assigned.insert(key, value);
+    if (!settings)
+        replaceDamagedStore();
+    settings->setValue(key, value);
+}
+
+void IniUserDefaults::replaceDamagedStore() {
+    // The user may want to mend by hand what we could not read.
+    const QString aside = path + QStringLiteral(".damaged");
+    QFile::remove(aside);
+    QFile::rename(path, aside);
+    settings = openStore(path);
+}
+
+} // namespace tambrelle

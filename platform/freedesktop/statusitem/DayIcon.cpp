@@ -1,0 +1,58 @@
+#include "platform/freedesktop/statusitem/DayIcon.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRectF>
+#include <QString>
+
+namespace tambrelle {
+
+namespace {
+
+const QColor leafPaper(237, 232, 219);
+const QColor leafEdge(56, 41, 31);
+const QColor leafHead(140, 112, 71);
+const QColor leafInk(56, 41, 31);
+
+/// Shares of the icon's side.
+constexpr double margin = 0.04;
+constexpr double corner = 0.14;
+constexpr double headHeight = 0.22;
+constexpr double digitHeight = 0.62;
+constexpr double edgeWidth = 0.045;
+
+} // namespace
+
+QImage dayIcon(std::int64_t day, int side) {
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+
+    const double unit = side;
+    const double edge = std::max(1.0, unit * edgeWidth);
+    const QRectF leaf = QRectF(0, 0, unit, unit)
+                            .adjusted(unit * margin, unit * margin, -unit * margin, -unit * margin)
+                            .adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2);
+    QPainterPath outline;
+    outline.addRoundedRect(leaf, unit * corner, unit * corner);
+    painter.fillPath(outline, leafPaper);
+    painter.setClipPath(outline);
+    painter.fillRect(QRectF(leaf.left(), leaf.top(), leaf.width(), unit * headHeight), leafHead);
+    painter.setClipping(false);
+    painter.strokePath(outline, QPen(leafEdge, edge));
+
+    QFont font;
+    font.setFamily(QStringLiteral("sans-serif"));
+    font.setBold(true);
+    font.setPixelSize(std::max(6, qRound(unit * digitHeight)));
+    painter.setFont(font);
+    painter.setPen(leafInk);
+    const QRectF page = leaf.adjusted(0, unit * headHeight - edge, 0, 0);
+    painter.drawText(page, Qt::AlignCenter, QString::number(day));
+    return image;
+}
+
+} // namespace tambrelle

@@ -1,0 +1,100 @@
+#include "platform/freedesktop/statusitem/FreedesktopStatusItem.h"
+
+#include "platform/freedesktop/statusitem/DockedLinePresentation.h"
+#include "platform/freedesktop/statusitem/FloatingLabelPresentation.h"
+#include "platform/freedesktop/statusitem/NotifierPresentation.h"
+
+#include <chrono>
+
+namespace tambrelle {
+
+namespace {
+
+/// How long a silent bus may keep the line from the screen.
+constexpr std::chrono::milliseconds busPatience{1000};
+
+/// What suits the program that takes the items, by its name as the kernel has it.
+NotifierAppearance appearanceFor(const QString& program) {
+    if (program == QLatin1String("gnome-shell"))
+        return {.style = {.label = true, .menu = false, .refuseClicks = true}, .wideLine = false};
+    if (program == QLatin1String("notification-ar") || program == QLatin1String("ayatana-indicat"))
+        return {.style = {.label = true, .menu = true, .refuseClicks = false}, .wideLine = false};
+    if (program == QLatin1String("waybar"))
+        return {.style = {.label = false, .menu = true, .refuseClicks = false}, .wideLine = true};
+    return {};
+}
+
+bool showsLine(const NotifierAppearance& appearance) {
+    return appearance.style.label || appearance.wideLine;
+}
+
+} // namespace
+
+FreedesktopStatusItem::FreedesktopStatusItem(QObject* parent) : StatusItem(parent) {
+    connect(&tray, &TrayManager::changed, this, [this] {
+        trayRefused = false;
+        choose();
+    });
+    connect(&watcher, &NotifierWatcher::changed, this, [this] {
+        patience.stop();
+        watcherKnown = true;
+        watcherRefused = false;
+        choose();
+    });
+    patience.setSingleShot(true);
+    connect(&patience, &QTimer::timeout, this, [this] {
+        watcherKnown = true;
+        choose();
+    });
+    patience.start(busPatience);
+}
+
+FreedesktopStatusItem::~FreedesktopStatusItem() = default;
+
+void FreedesktopStatusItem::present(const StatusItemContent& next) {
+    if (next == content)
+        return;
+    const bool first = !content;
+    content = next;
+    if (first) {
+        choose();
+        return;
+    }
+    for (const auto& presentation : presentations)
+        presentation->present(next);
+}
+
+void FreedesktopStatusItem::choose() {
+    presentations.clear();
+    if (!content)
+        return;
+    if (tray.isPresent() && !trayRefused) {
+        add(std::make_unique<DockedLinePresentation>(tray), [this] { trayRefused = true; });
+        return;
+    }
+    if (!watcherKnown)
+        return;
+    const bool taken = watcher.isPresent() && !watcherRefused;
+    const NotifierAppearance appearance = appearanceFor(watcher.program());
+    if (taken)
+        add(std::make_unique<NotifierPresentation>(appearance), [this] { watcherRefused = true; });
+    if (!taken || !showsLine(appearance))
+        add(std::make_unique<FloatingLabelPresentation>(), [] {});
+}
+
+void FreedesktopStatusItem::add(std::unique_ptr<Presentation> presentation, std::function<void()> onRefusal) {
+    Presentation* added = presentation.get();
+    presentations.push_back(std::move(presentation));
+    connect(added, &Presentation::activated, this, &StatusItem::activated);
+    connect(added, &Presentation::preferencesRequested, this, &StatusItem::preferencesRequested);
+    connect(added, &Presentation::quitRequested, this, &StatusItem::quitRequested);
+    // Queued: the new choice destroys the one that is just saying so.
+    const auto chooseAnother = [this, onRefusal = std::move(onRefusal)] {
+        onRefusal();
+        choose();
+    };
+    connect(added, &Presentation::refused, this, chooseAnother, Qt::QueuedConnection);
+    added->present(*content);
+}
+
+} // namespace tambrelle

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/StatusItem.h"
+#include "platform/freedesktop/statusitem/NotifierWatcher.h"
+#include "platform/freedesktop/statusitem/TrayManager.h"
+
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace tambrelle {
+
+class Presentation;
+
+/// Looks at the desktop, chooses how the line gets into its bar, and looks again whenever the bar changes.
+class FreedesktopStatusItem final : public StatusItem {
+    Q_OBJECT
+
+public:
+    explicit FreedesktopStatusItem(QObject* parent = nullptr);
+    ~FreedesktopStatusItem() override;
+
+    void present(const StatusItemContent& content) override;
+
+private:
+    void choose();
+    void add(std::unique_ptr<Presentation> presentation, std::function<void()> onRefusal);
+
+    TrayManager tray;
+    NotifierWatcher watcher;
+    QTimer patience;
+    bool watcherKnown = false;   ///< Whether the bus has said who takes items, if anybody.
+    bool trayRefused = false;    ///< Whether the present tray has given the line too little room.
+    bool watcherRefused = false; ///< Whether the present watcher has answered by an error.
+    std::optional<StatusItemContent> content;
+    std::vector<std::unique_ptr<Presentation>> presentations;
+};
+
+} // namespace tambrelle

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QDBusArgument>
+#include <QDBusVirtualObject>
+#include <QList>
+#include <QMetaType>
+#include <QString>
+#include <QVariantMap>
+
+namespace tambrelle {
+
+/// One entry of the item's menu as `com.canonical.dbusmenu` carries it, with its children.
+struct MenuNode {
+    int id = 0;
+    QVariantMap properties;
+    QList<MenuNode> children;
+};
+
+QDBusArgument& operator<<(QDBusArgument& argument, const MenuNode& node);
+const QDBusArgument& operator>>(const QDBusArgument& argument, MenuNode& node);
+
+/// The item's menu on the bus: the line itself, the panel, the preferences, and quit.
+class MenuObject final : public QDBusVirtualObject {
+    Q_OBJECT
+
+public:
+    explicit MenuObject(QObject* parent = nullptr);
+
+    /// The text of the first entry. A bar is not told of it; it asks when it opens the menu.
+    void setLine(const QString& text);
+
+    [[nodiscard]] QString introspect(const QString& path) const override;
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
+
+signals:
+    void panelRequested();
+    void preferencesRequested();
+    void quitRequested();
+
+private:
+    [[nodiscard]] QDBusMessage replyTo(const QDBusMessage& message);
+    [[nodiscard]] QDBusMessage layout(const QDBusMessage& message);
+    [[nodiscard]] QDBusMessage groupProperties(const QDBusMessage& message) const;
+    [[nodiscard]] QDBusMessage property(const QDBusMessage& message) const;
+    void choose(int id);
+
+    QString line;
+    QString shownLine; ///< As of the last layout that a bar has read.
+    uint revision = 1;
+};
+
+} // namespace tambrelle
+
+Q_DECLARE_METATYPE(tambrelle::MenuNode)

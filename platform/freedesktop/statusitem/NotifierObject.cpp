@@ -1,0 +1,175 @@
+#include "platform/freedesktop/statusitem/NotifierObject.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusVariant>
+#include <QStringList>
+
+namespace tambrelle {
+
+namespace {
+
+const QString itemInterface = QStringLiteral("org.kde.StatusNotifierItem");
+const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+
+/// The protocol's way of saying that an item has no menu.
+const QString noMenuPath = QStringLiteral("/NO_DBUSMENU");
+
+constexpr auto introspection = R"xml(
+<interface name="org.kde.StatusNotifierItem">
+  <property name="Category" type="s" access="read"/>
+  <property name="Id" type="s" access="read"/>
+  <property name="Title" type="s" access="read"/>
+  <property name="Status" type="s" access="read"/>
+  <property name="WindowId" type="i" access="read"/>
+  <property name="IconName" type="s" access="read"/>
+  <property name="IconPixmap" type="a(iiay)" access="read"/>
+  <property name="ToolTip" type="(sa(iiay)ss)" access="read"/>
+  <property name="ItemIsMenu" type="b" access="read"/>
+  <property name="Menu" type="o" access="read"/>
+%1  <method name="Activate"><arg name="x" type="i" direction="in"/><arg name="y" type="i" direction="in"/></method>
+  <method name="SecondaryActivate"><arg name="x" type="i" direction="in"/><arg name="y" type="i" direction="in"/></method>
+  <method name="ContextMenu"><arg name="x" type="i" direction="in"/><arg name="y" type="i" direction="in"/></method>
+  <method name="Scroll"><arg name="delta" type="i" direction="in"/><arg name="orientation" type="s" direction="in"/></method>
+  <method name="ProvideXdgActivationToken"><arg name="token" type="s" direction="in"/></method>
+  <signal name="NewTitle"/>
+  <signal name="NewIcon"/>
+  <signal name="NewToolTip"/>
+  <signal name="NewStatus"><arg name="status" type="s"/></signal>
+%2</interface>
+)xml";
+
+constexpr auto labelProperty = R"xml(  <property name="XAyatanaLabel" type="s" access="read"/>
+  <property name="XAyatanaLabelGuide" type="s" access="read"/>
+)xml";
+
+constexpr auto labelSignal =
+    R"xml(  <signal name="XAyatanaNewLabel"><arg name="label" type="s"/><arg name="guide" type="s"/></signal>
+)xml";
+
+/// The arguments of a call when they are of the types that the protocol gives, else nothing.
+std::optional<QPoint> positionOf(const QDBusMessage& message) {
+    const QVariantList arguments = message.arguments();
+    if (message.signature() != QLatin1String("ii"))
+        return std::nullopt;
+    return QPoint(arguments.at(0).toInt(), arguments.at(1).toInt());
+}
+
+QDBusMessage invalidArguments(const QDBusMessage& message) {
+    return message.createErrorReply(QDBusError::InvalidArgs,
+                                    QStringLiteral("The arguments have other types"));
+}
+
+} // namespace
+
+NotifierObject::NotifierObject(const NotifierStyle& style, QObject* parent)
+    : QDBusVirtualObject(parent), style(style) {
+    registerNotifierTypes();
+}
+
+void NotifierObject::setContent(const StatusItemContent& next) {
+    if (next.line == content.line) {
+        content = next;
+        return;
+    }
+    content = next;
+    emit changed(QStringLiteral("NewTitle"), {});
+    emit changed(QStringLiteral("NewToolTip"), {});
+    if (style.label)
+        emit changed(QStringLiteral("XAyatanaNewLabel"), {content.line, content.line});
+}
+
+void NotifierObject::setIcon(const IconPixmaps& pixmaps) {
+    if (pixmaps == icon)
+        return;
+    icon = pixmaps;
+    emit changed(QStringLiteral("NewIcon"), {});
+}
+
+QString NotifierObject::introspect(const QString& /*path*/) const {
+    return QString::fromLatin1(introspection)
+        .arg(QLatin1String(style.label ? labelProperty : ""), QLatin1String(style.label ? labelSignal : ""));
+}
+
+QVariantMap NotifierObject::properties() const {
+    QVariantMap map{
+        {QStringLiteral("Category"), QStringLiteral("ApplicationStatus")},
+        {QStringLiteral("Id"), QStringLiteral("org.tambrelle.Tambrelle")},
+        {QStringLiteral("Title"), content.line},
+        {QStringLiteral("Status"), QStringLiteral("Active")},
+        {QStringLiteral("WindowId"), 0},
+        {QStringLiteral("IconName"), QString()},
+        {QStringLiteral("IconPixmap"), QVariant::fromValue(icon)},
+        {QStringLiteral("ToolTip"), QVariant::fromValue(ToolTip{{}, {}, content.line, {}})},
+        {QStringLiteral("ItemIsMenu"), false},
+        {QStringLiteral("Menu"), QVariant::fromValue(QDBusObjectPath(style.menu ? menuPath : noMenuPath))},
+    };
+    if (style.label) {
+        map.insert(QStringLiteral("XAyatanaLabel"), content.line);
+        map.insert(QStringLiteral("XAyatanaLabelGuide"), content.line);
+    }
+    return map;
+}
+
+bool NotifierObject::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
+    // A caller may leave the interface out; then the member's name alone tells.
+    std::optional<QDBusMessage> reply;
+    if (message.interface() == propertiesInterface)
+        reply = handleProperties(message);
+    else if (message.interface() == itemInterface || message.interface().isEmpty())
+        reply = handleItem(message);
+    if (!reply)
+        return false;
+    if (message.isReplyRequired())
+        connection.send(*reply);
+    return true;
+}
+
+std::optional<QDBusMessage> NotifierObject::handleProperties(const QDBusMessage& message) const {
+    const QVariantList arguments = message.arguments();
+    if (message.member() == QLatin1String("GetAll")) {
+        if (message.signature() != QLatin1String("s"))
+            return invalidArguments(message);
+        return message.createReply(QVariant(properties()));
+    }
+    if (message.member() == QLatin1String("Get")) {
+        if (message.signature() != QLatin1String("ss"))
+            return invalidArguments(message);
+        const QVariantMap all = properties();
+        const auto found = all.constFind(arguments.at(1).toString());
+        if (found == all.cend())
+            return message.createErrorReply(QDBusError::UnknownProperty, QStringLiteral("No such property"));
+        return message.createReply(QVariant::fromValue(QDBusVariant(*found)));
+    }
+    if (message.member() == QLatin1String("Set"))
+        return message.createErrorReply(QDBusError::PropertyReadOnly,
+                                        QStringLiteral("The item cannot be changed"));
+    return std::nullopt;
+}
+
+std::optional<QDBusMessage> NotifierObject::handleItem(const QDBusMessage& message) {
+    const QString member = message.member();
+    if (member == QLatin1String("Activate")) {
+        const auto position = positionOf(message);
+        if (!position)
+            return invalidArguments(message);
+        emit activated(*position);
+        if (style.refuseClicks)
+            return message.createErrorReply(QDBusError::Failed, QStringLiteral("Shown"));
+        return message.createReply();
+    }
+    // Nothing steps or changes by a middle click or the wheel passing over the item.
+    static const QStringList accepted{
+        QStringLiteral("SecondaryActivate"),
+        QStringLiteral("ContextMenu"),
+        QStringLiteral("Scroll"),
+        QStringLiteral("ProvideXdgActivationToken"),
+        QStringLiteral("XAyatanaSecondaryActivate"),
+    };
+    if (accepted.contains(member))
+        return message.createReply();
+    return std::nullopt;
+}
+
+} // namespace tambrelle

@@ -1,0 +1,129 @@
+#include "platform/freedesktop/statusitem/NotifierPresentation.h"
+
+#include "platform/freedesktop/statusitem/DayIcon.h"
+#include "platform/freedesktop/statusitem/LineImage.h"
+#include "platform/freedesktop/statusitem/MenuObject.h"
+#include "platform/freedesktop/statusitem/NotifierWatcher.h"
+
+#include <QCoreApplication>
+#include <QCursor>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+#include <array>
+
+namespace tambrelle {
+
+namespace {
+
+/// The sizes in which bars draw square icons, at scales from 1 to 2.
+constexpr std::array iconSides{16, 22, 24, 32, 44, 48};
+
+/// The watcher forgets an item when the name goes from the bus, so each item has a name of its own.
+QString freshServiceName() {
+    static int items = 0;
+    return QStringLiteral("org.kde.StatusNotifierItem-%1-%2")
+        .arg(QCoreApplication::applicationPid())
+        .arg(++items);
+}
+
+QDBusMessage callToBus(const QString& method, const QVariantList& arguments) {
+    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+                                                       QStringLiteral("/org/freedesktop/DBus"),
+                                                       QStringLiteral("org.freedesktop.DBus"), method);
+    call.setArguments(arguments);
+    return call;
+}
+
+IconPixmaps squareIcon(std::int64_t day) {
+    IconPixmaps pixmaps;
+    for (const int side : iconSides)
+        pixmaps.append(IconPixmap::fromImage(dayIcon(day, side)));
+    return pixmaps;
+}
+
+IconPixmaps wideLine(const QString& line) {
+    IconPixmaps pixmaps;
+    for (const int scale : {1, 2})
+        pixmaps.append(IconPixmap::fromImage(lineImage(line, scale)));
+    return pixmaps;
+}
+
+} // namespace
+
+NotifierPresentation::NotifierPresentation(const NotifierAppearance& appearance, QObject* parent)
+    : Presentation(parent),
+      appearance(appearance),
+      serviceName(freshServiceName()),
+      item(new NotifierObject(appearance.style, this)),
+      menu(new MenuObject(this)) {
+    connect(item, &NotifierObject::activated, this, &Presentation::activated);
+    connect(item, &NotifierObject::changed, this, &NotifierPresentation::sendSignal);
+    connect(menu, &MenuObject::panelRequested, this, [this] { emit activated(QCursor::pos()); });
+    connect(menu, &MenuObject::preferencesRequested, this, &Presentation::preferencesRequested);
+    connect(menu, &MenuObject::quitRequested, this, &Presentation::quitRequested);
+}
+
+NotifierPresentation::~NotifierPresentation() {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.unregisterObject(NotifierObject::path);
+    bus.unregisterObject(NotifierObject::menuPath);
+    bus.send(callToBus(QStringLiteral("ReleaseName"), {serviceName}));
+}
+
+void NotifierPresentation::present(const StatusItemContent& content) {
+    item->setContent(content);
+    if (appearance.wideLine)
+        item->setIcon(wideLine(content.line));
+    else if (shownDay != content.day)
+        item->setIcon(squareIcon(content.day));
+    shownDay = content.day;
+    menu->setLine(content.line);
+    if (!announced)
+        claimName();
+    announced = true;
+}
+
+void NotifierPresentation::claimName() {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.registerVirtualObject(NotifierObject::path, item);
+    if (appearance.style.menu)
+        bus.registerVirtualObject(NotifierObject::menuPath, menu);
+    constexpr uint doNotQueue = 4;
+    auto* claim = new QDBusPendingCallWatcher(
+        bus.asyncCall(callToBus(QStringLiteral("RequestName"), {serviceName, doNotQueue})), this);
+    connect(claim, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* call) {
+        call->deleteLater();
+        if (call->isError())
+            emit refused();
+        else
+            registerWithWatcher();
+    });
+}
+
+void NotifierPresentation::registerWithWatcher() {
+    QDBusMessage call = QDBusMessage::createMethodCall(NotifierWatcher::service, NotifierWatcher::objectPath,
+                                                       NotifierWatcher::service,
+                                                       QStringLiteral("RegisterStatusNotifierItem"));
+    call.setArguments({serviceName});
+    auto* registration = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
+    connect(registration, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* answer) {
+        answer->deleteLater();
+        if (answer->isError())
+            emit refused();
+    });
+}
+
+void NotifierPresentation::sendSignal(const QString& name, const QVariantList& arguments) {
+    // Until the item is on the bus nobody listens.
+    if (!announced)
+        return;
+    QDBusMessage signal =
+        QDBusMessage::createSignal(NotifierObject::path, QStringLiteral("org.kde.StatusNotifierItem"), name);
+    signal.setArguments(arguments);
+    QDBusConnection::sessionBus().send(signal);
+}
+
+} // namespace tambrelle

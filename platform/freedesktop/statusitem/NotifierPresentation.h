@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/freedesktop/statusitem/NotifierObject.h"
+#include "platform/freedesktop/statusitem/Presentation.h"
+
+#include <cstdint>
+
+namespace tambrelle {
+
+class MenuObject;
+
+/// How a bar that takes items over the bus is best served.
+struct NotifierAppearance {
+    NotifierStyle style;
+    bool wideLine = false; ///< The line itself as a wide picture in place of the square icon.
+};
+
+/// The line as a status notifier item on the session bus, registered with the bar's watcher.
+class NotifierPresentation final : public Presentation {
+    Q_OBJECT
+
+public:
+    explicit NotifierPresentation(const NotifierAppearance& appearance, QObject* parent = nullptr);
+    ~NotifierPresentation() override;
+
+    void present(const StatusItemContent& content) override;
+
+private:
+    void claimName();
+    void registerWithWatcher();
+    void sendSignal(const QString& name, const QVariantList& arguments);
+
+    NotifierAppearance appearance;
+    QString serviceName;
+    NotifierObject* item;
+    MenuObject* menu;
+    bool announced = false;
+    std::int64_t shownDay = 0;
+};
+
+} // namespace tambrelle
