@@ -1,0 +1,12 @@
+#include "tests/support/WarningGuard.h"
+
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    tambrelle::test::failOnWarnings();
+    return RUN_ALL_TESTS();
+}
