@@ -24,10 +24,10 @@ struct WrittenNote {
 // "Allons enfants de la Patrie, le jour de gloire est arrivé".
 constexpr int F4 = 65, G4 = 67, A4 = 69, Bb4 = 70, C5 = 72, D5 = 74, Eb5 = 75, F5 = 77;
 constexpr std::array melody{
-    WrittenNote{F4, 0.25},  WrittenNote{F4, 0.75}, WrittenNote{F4, 0.25},  WrittenNote{Bb4, 1},
-    WrittenNote{Bb4, 1},    WrittenNote{C5, 1},    WrittenNote{C5, 1},     WrittenNote{F5, 1.5},
+    WrittenNote{F4, 0.25},  WrittenNote{F4, 0.75},  WrittenNote{F4, 0.25},  WrittenNote{Bb4, 1},
+    WrittenNote{Bb4, 1},    WrittenNote{C5, 1},     WrittenNote{C5, 1},     WrittenNote{F5, 1.5},
     WrittenNote{D5, 0.5},   WrittenNote{Bb4, 0.75}, WrittenNote{Bb4, 0.25}, WrittenNote{D5, 0.75},
-    WrittenNote{Bb4, 0.25}, WrittenNote{G4, 1},    WrittenNote{Eb5, 2},    WrittenNote{C5, 0.75},
+    WrittenNote{Bb4, 0.25}, WrittenNote{G4, 1},     WrittenNote{Eb5, 2},    WrittenNote{C5, 0.75},
     WrittenNote{A4, 0.25},  WrittenNote{Bb4, 4},
 };
 
@@ -84,8 +84,9 @@ TEST_F(MarseillaiseTest, TellsEveryWrongNoteAndEveryWrongLength) {
             auto altered = melody;
             altered[i].quarters *= factor;
             // Half of a sixteenth is nearer than the tolerance.
-            if (std::abs(altered[i].quarters - melody[i].quarters) * quarter > 2 * tolerance)
+            if (std::abs(altered[i].quarters - melody[i].quarters) * quarter > 2 * tolerance) {
                 EXPECT_NE(difference(heard, altered), "") << "note " << i + 1 << " times " << factor;
+            }
         }
     }
     EXPECT_NE(difference(heard, std::span(melody).first(melody.size() - 1)), "");
@@ -109,10 +110,14 @@ TEST_F(MarseillaiseTest, BeginsAtOnceDoesNotClipAndDiesAway) {
     EXPECT_LT(std::abs(loudest(samples.last(441))), 0.01F);
 }
 
-TEST(MarseillaiseFile, IsAtMost400Kilobytes) { EXPECT_LE(std::filesystem::file_size(chime), 400'000U); }
+TEST(MarseillaiseFile, IsAtMost400Kilobytes) {
+    EXPECT_LE(std::filesystem::file_size(chime), 400'000U);
+}
 
 TEST(Transcription, HearsNothingInSilence) {
     EXPECT_TRUE(transcribe({22050, std::vector<float>(44100, 0.0F)}).empty());
 }
 
-TEST(Decode, IsEmptyForWhatIsNotSound) { EXPECT_TRUE(decode(__FILE__).samples.empty()); }
+TEST(Decode, IsEmptyForWhatIsNotSound) {
+    EXPECT_TRUE(decode(__FILE__).samples.empty());
+}

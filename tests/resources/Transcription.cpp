@@ -18,15 +18,17 @@ constexpr int lowestKey = 62;
 constexpr int highestKey = 83;
 constexpr int harmonics = 6;
 constexpr double fundamentalWeight = 2;
-constexpr std::size_t pitchWindow = 2048;    // 93 ms: parts semitones from their third harmonic on
-constexpr std::size_t loudnessWindow = 768;  // 35 ms: sees the breath between two equal notes
-constexpr std::size_t hop = 220;             // 10 ms
-constexpr double silence = 0.004;            // amplitude under which nobody plays
-constexpr double breath = 0.4;               // a fall to this part of the loudness before, and back, is a new note
-constexpr std::size_t neighbours = 5;        // frames on either side that are asked for the majority
-constexpr double shortestNote = 0.07;        // seconds
+constexpr std::size_t pitchWindow = 2048;   // 93 ms: parts semitones from their third harmonic on
+constexpr std::size_t loudnessWindow = 768; // 35 ms: sees the breath between two equal notes
+constexpr std::size_t hop = 220;            // 10 ms
+constexpr double silence = 0.004;           // amplitude under which nobody plays
+constexpr double breath = 0.4;        // a fall to this part of the loudness before, and back, is a new note
+constexpr std::size_t neighbours = 5; // frames on either side that are asked for the majority
+constexpr double shortestNote = 0.07; // seconds
 
-double frequency(int key) { return 440.0 * std::pow(2.0, (key - 69) / 12.0); }
+double frequency(int key) {
+    return 440.0 * std::pow(2.0, (key - 69) / 12.0);
+}
 
 /// A Hann-weighted copy of the samples around a place; nothing sounds outside the recording.
 std::vector<double> windowed(const Recording& recording, std::size_t centre, std::size_t size) {
@@ -55,8 +57,9 @@ double amplitude(std::span<const double> part, double hertz, double rate) {
     return 4 * std::sqrt(std::max(power, 0.0)) / static_cast<double>(part.size());
 }
 
-/// How strongly a key sounds: the weighted geometric mean of its harmonics, since a key that does not sound misses
-/// some. The fundamental weighs most, or the octave below, which has all of these harmonics too, would be heard.
+/// How strongly a key sounds: the weighted geometric mean of its harmonics, since a key that does not sound
+/// misses some. The fundamental weighs most, or the octave below, which has all of these harmonics too, would
+/// be heard.
 double salience(std::span<const double> part, int key, double rate) {
     double logarithms = fundamentalWeight * std::log(amplitude(part, frequency(key), rate) + 1e-6);
     for (int harmonic = 2; harmonic <= harmonics; ++harmonic)
@@ -111,7 +114,8 @@ Recording decode(const std::filesystem::path& file) {
     const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), &pclose);
     Recording recording{decodeRate, {}};
     std::array<float, 4096> block{};
-    while (const std::size_t count = pipe ? std::fread(block.data(), sizeof(float), block.size(), pipe.get()) : 0)
+    while (const std::size_t count =
+               pipe ? std::fread(block.data(), sizeof(float), block.size(), pipe.get()) : 0)
         recording.samples.insert(recording.samples.end(), block.begin(),
                                  block.begin() + static_cast<std::ptrdiff_t>(count));
     return recording;
@@ -130,7 +134,8 @@ std::vector<HeardNote> transcribe(const Recording& recording) {
     for (std::size_t frame = 0; frame < keys.size(); ++frame) {
         const std::optional<int> key = majority(keys, frame);
         if (key) {
-            const double now = loudness(windowed(recording, frame * hop, loudnessWindow), *key, recording.rate);
+            const double now =
+                loudness(windowed(recording, frame * hop, loudnessWindow), *key, recording.rate);
             if (key != current || trough < breath * std::min(peak, now)) {
                 notes.push_back({*key, static_cast<double>(frame) * frameLength, 0});
                 peak = trough = now;

@@ -22,8 +22,8 @@ struct HeardNote {
 /// Decodes a sound file with ffmpeg, mixed down to one channel. Without samples when it can't be decoded.
 Recording decode(const std::filesystem::path& file);
 
-/// The leading melody of a recording in the order heard, knowing nothing of what was written. It listens between D4
-/// and B5.
+/// The leading melody of a recording in the order heard, knowing nothing of what was written. It listens
+/// between D4 and B5.
 std::vector<HeardNote> transcribe(const Recording& recording);
 
 /// The note's name, "Bb4".
