@@ -1,4 +1,5 @@
 #include "platform/freedesktop/DisplayCheck.h"
+#include "platform/freedesktop/EmojiFont.h"
 #include "platform/freedesktop/FreedesktopPlatform.h"
 #include "ui/TambrelleApp.h"
 
@@ -20,6 +21,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tambrelle.Tambrelle"));
     QApplication::setQuitOnLastWindowClosed(false);
 
+    preferEmojiFont();
     FreedesktopPlatform platform;
     const TambrelleApp tambrelle(platform.ports());
     return QApplication::exec();

@@ -10,9 +10,8 @@ namespace tambrelle {
 
 namespace {
 
-/// Distance from the edges of the free area, and the frame's width, logical pixels.
+/// Distance from the edges of the free area, and the air above and below the text, logical pixels.
 constexpr int cornerGap = 8;
-constexpr int frameWidth = 1;
 constexpr int verticalPadding = 3;
 
 constexpr Qt::WindowFlags windowFlags =
@@ -23,13 +22,8 @@ constexpr Qt::WindowFlags windowFlags =
 FloatingLabelPresentation::FloatingLabelPresentation(QObject* parent)
     : Presentation(parent), label(windowFlags) {
     label.setContentsMargins(LineStyle::padding, verticalPadding, LineStyle::padding, verticalPadding);
-    label.setFrameStyle(QFrame::Box | QFrame::Plain);
-    label.setLineWidth(frameWidth);
-    QPalette colours = label.palette();
-    colours.setColor(QPalette::Window, LineStyle::paper);
-    colours.setColor(QPalette::WindowText, LineStyle::ink);
-    label.setPalette(colours);
-    label.setAutoFillBackground(true);
+    label.setPaper(LineStyle::paper, LineStyle::edge);
+    label.setInk(LineStyle::ink);
 
     connect(&label, &LineLabel::clicked, this, &Presentation::activated);
     connect(&label, &LineLabel::dragged, this, [this] {

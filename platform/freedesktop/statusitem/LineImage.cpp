@@ -12,17 +12,15 @@ QImage lineImage(const QString& line, int scale) {
     image.setDevicePixelRatio(scale);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    painter.setFont(LineStyle::font());
     const QRect place(QPoint(0, 0), size);
-    const int flags = Qt::AlignCenter | Qt::TextSingleLine;
 
     QColor halo = LineStyle::darkInk;
     halo.setAlphaF(0.35F);
     painter.setPen(halo);
     for (const QPoint offset : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)})
-        painter.drawText(place.translated(offset), flags, line);
+        LineStyle::draw(painter, place.translated(offset), line);
     painter.setPen(LineStyle::lightInk);
-    painter.drawText(place, flags, line);
+    LineStyle::draw(painter, place, line);
     return image;
 }
 

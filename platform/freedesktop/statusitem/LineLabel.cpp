@@ -4,21 +4,19 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QPainter>
 
 namespace tambrelle {
 
 LineLabel::LineLabel(Qt::WindowFlags flags) : QLabel(nullptr, flags) {
-    setFont(LineStyle::font());
     setTextFormat(Qt::PlainText);
-    setAlignment(Qt::AlignCenter);
     setWindowTitle(QStringLiteral("Tambrelle"));
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_QuitOnClose, false);
 }
 
 void LineLabel::setLine(const QString& text) {
-    const QMargins frame = contentsMargins();
-    const QSize room = LineStyle::sizeOf(text).grownBy(frame);
+    const QSize room = LineStyle::sizeOf(text).grownBy(contentsMargins());
     if (room != size())
         setFixedSize(room);
     setText(text);
@@ -28,6 +26,23 @@ void LineLabel::setInk(const QColor& color) {
     QPalette inks = palette();
     inks.setColor(QPalette::WindowText, color);
     setPalette(inks);
+}
+
+void LineLabel::setPaper(const QColor& ground, const QColor& edge) {
+    paper = ground;
+    paperEdge = edge;
+    update();
+}
+
+void LineLabel::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    if (paper.isValid()) {
+        painter.setPen(paperEdge);
+        painter.setBrush(paper);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    painter.setPen(palette().color(QPalette::WindowText));
+    LineStyle::draw(painter, contentsRect(), text());
 }
 
 void LineLabel::mousePressEvent(QMouseEvent* event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QLabel>
 #include <QPoint>
 
@@ -16,6 +17,8 @@ public:
     /// Shows `text` and takes exactly the room that it needs.
     void setLine(const QString& text);
     void setInk(const QColor& color);
+    /// Lays the line on a slip of paper of its own; without one it stands on whatever is behind the window.
+    void setPaper(const QColor& ground, const QColor& edge);
 
 signals:
     /// Pressed and released in place; `position` is on the screen.
@@ -24,11 +27,14 @@ signals:
     void dragged();
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    QColor paper;
+    QColor paperEdge;
     QPoint pressedAt;
     bool pressed = false;
 };
