@@ -15,9 +15,11 @@ QString emojiFamily() {
 
 void preferEmojiFont() {
     const QStringList used{QFontDatabase::systemFont(QFontDatabase::GeneralFont).family(),
-                           QFontDatabase::systemFont(QFontDatabase::FixedFont).family(), QStringLiteral("serif")};
+                           QFontDatabase::systemFont(QFontDatabase::FixedFont).family(),
+                           QStringLiteral("serif")};
     for (const QString& name : used) {
-        // A generic name is no font of its own: without the one that it stands for, the emoji font's digits would win.
+        // A generic name is no font of its own: without the one that it stands for, the emoji font's digits
+        // would win.
         const QString meant = QFontInfo(QFont(name)).family();
         QFont::insertSubstitutions(name, {meant, emojiFamily()});
         QFont::insertSubstitution(meant, emojiFamily());

@@ -2,12 +2,9 @@
 
 #include "platform/freedesktop/statusitem/LineLabel.h"
 #include "platform/freedesktop/statusitem/Presentation.h"
-
-#include <QTimer>
+#include "platform/freedesktop/statusitem/TrayDock.h"
 
 namespace tambrelle {
-
-class TrayManager;
 
 /// The line as a window of ours inside the bar. Refused where the bar grants it less than the line needs.
 class DockedLinePresentation final : public Presentation {
@@ -20,13 +17,12 @@ public:
     void present(const StatusItemContent& content) override;
 
 private:
-    void dock();
-    void checkGrantedWidth();
+    void adoptInk();
 
     const TrayManager& tray;
     LineLabel label;
-    QTimer check;
-    bool docked = false;
+    TrayDock dock;
+    int needed = 0; ///< Width of the line, logical pixels; the label's own is whatever the bar makes it.
 };
 
 } // namespace tambrelle

@@ -1,5 +1,6 @@
 #include "platform/freedesktop/statusitem/FreedesktopStatusItem.h"
 
+#include "platform/freedesktop/statusitem/DockedIconPresentation.h"
 #include "platform/freedesktop/statusitem/DockedLinePresentation.h"
 #include "platform/freedesktop/statusitem/FloatingLabelPresentation.h"
 #include "platform/freedesktop/statusitem/NotifierPresentation.h"
@@ -32,7 +33,8 @@ bool showsLine(const NotifierAppearance& appearance) {
 
 FreedesktopStatusItem::FreedesktopStatusItem(QObject* parent) : StatusItem(parent) {
     connect(&tray, &TrayManager::changed, this, [this] {
-        trayRefused = false;
+        lineRefused = false;
+        iconRefused = false;
         choose();
     });
     connect(&watcher, &NotifierWatcher::changed, this, [this] {
@@ -68,17 +70,19 @@ void FreedesktopStatusItem::choose() {
     presentations.clear();
     if (!content)
         return;
-    if (tray.isPresent() && !trayRefused) {
-        add(std::make_unique<DockedLinePresentation>(tray), [this] { trayRefused = true; });
+    if (tray.isPresent() && !lineRefused) {
+        add(std::make_unique<DockedLinePresentation>(tray), [this] { lineRefused = true; });
         return;
     }
     if (!watcherKnown)
         return;
-    const bool taken = watcher.isPresent() && !watcherRefused;
     const NotifierAppearance appearance = appearanceFor(watcher.program());
-    if (taken)
+    const bool notified = watcher.isPresent() && !watcherRefused;
+    if (notified)
         add(std::make_unique<NotifierPresentation>(appearance), [this] { watcherRefused = true; });
-    if (!taken || !showsLine(appearance))
+    else if (tray.isPresent() && !iconRefused)
+        add(std::make_unique<DockedIconPresentation>(tray), [this] { iconRefused = true; });
+    if (!notified || !showsLine(appearance))
         add(std::make_unique<FloatingLabelPresentation>(), [] {});
 }
 

@@ -33,7 +33,8 @@ private:
     NotifierWatcher watcher;
     QTimer patience;
     bool watcherKnown = false;   ///< Whether the bus has said who takes items, if anybody.
-    bool trayRefused = false;    ///< Whether the present tray has given the line too little room.
+    bool lineRefused = false;    ///< Whether the present tray has given the line too little room.
+    bool iconRefused = false;    ///< Whether the present tray has not taken the square icon either.
     bool watcherRefused = false; ///< Whether the present watcher has answered by an error.
     std::optional<StatusItemContent> content;
     std::vector<std::unique_ptr<Presentation>> presentations;

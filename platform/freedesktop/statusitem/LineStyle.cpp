@@ -16,8 +16,8 @@ constexpr int bodyPixelSize = 13;
 /// Perceived lightness (ITU-R BT.601 weights, 0 to 255) from which dark ink reads better than light.
 constexpr int lightGround = 128;
 
-/// The line's two runs, each with its font. Many text fonts have a black-and-white sun or snowman of their own, so the
-/// emoji must be asked of the emoji font by name.
+/// The line's two runs, each with its font. Many text fonts have a black-and-white sun or snowman of their
+/// own, so the emoji must be asked of the emoji font by name.
 struct Runs {
     QString emoji;
     QString text;
@@ -25,7 +25,9 @@ struct Runs {
     QFont textFont;
 
     explicit Runs(const QString& line)
-        : emoji(line.section(QLatin1Char(' '), 0, 0)), text(line.mid(emoji.size())), emojiFont(emojiFamily()),
+        : emoji(line.section(QLatin1Char(' '), 0, 0)),
+          text(line.mid(emoji.size())),
+          emojiFont(emojiFamily()),
           textFont(QFontDatabase::systemFont(QFontDatabase::FixedFont)) {
         emojiFont.setPixelSize(bodyPixelSize);
         textFont.setPixelSize(bodyPixelSize);

@@ -19,11 +19,12 @@ inline constexpr QColor darkInk(20, 20, 20);
 /// Space between the text and the ends of the line, logical pixels.
 inline constexpr int padding = 4;
 
-/// What `line` takes with its padding, logical pixels. Set in the system's monospaced font, so that the width holds
-/// while digits change.
+/// What `line` takes with its padding, logical pixels. Set in the system's monospaced font, so that the width
+/// holds while digits change.
 [[nodiscard]] QSize sizeOf(const QString& line);
 
-/// Draws `line` in the painter's pen, in the middle of `place`: its leading emoji in colour, the rest monospaced.
+/// Draws `line` in the painter's pen, in the middle of `place`: its leading emoji in colour, the rest
+/// monospaced.
 void draw(QPainter& painter, const QRect& place, const QString& line);
 
 /// The ink that reads best on `ground`.

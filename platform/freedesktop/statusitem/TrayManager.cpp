@@ -84,11 +84,8 @@ std::optional<QColor> TrayManager::foreground() const {
 }
 
 void TrayManager::dock(std::uint32_t window) const {
-    const std::array<std::uint32_t, 2> info{xembedVersion, xembedMapped};
-    const xcb_atom_t property = atom(connection, "_XEMBED_INFO");
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, property, property, 32, info.size(),
-                        info.data());
-
+    // Marked as shown already, some bars would show it themselves, behind the toolkit's back.
+    setEmbeddingInfo(window, 0);
     xcb_client_message_event_t request{};
     request.response_type = XCB_CLIENT_MESSAGE;
     request.format = 32;
@@ -99,6 +96,33 @@ void TrayManager::dock(std::uint32_t window) const {
     request.data.data32[2] = window;
     xcb_send_event(connection, 0, manager, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&request));
     xcb_flush(connection);
+}
+
+void TrayManager::markShown(std::uint32_t window) const {
+    setEmbeddingInfo(window, xembedMapped);
+    xcb_flush(connection);
+}
+
+void TrayManager::setEmbeddingInfo(std::uint32_t window, std::uint32_t flags) const {
+    const std::array<std::uint32_t, 2> info{xembedVersion, flags};
+    const xcb_atom_t property = atom(connection, "_XEMBED_INFO");
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, property, property, 32, info.size(),
+                        info.data());
+}
+
+std::optional<QColor> TrayManager::groundUnder(std::uint32_t window) const {
+    const Reply<xcb_translate_coordinates_reply_t> place(xcb_translate_coordinates_reply(
+        connection, xcb_translate_coordinates(connection, window, root, 1, 1), nullptr));
+    if (!place)
+        return std::nullopt;
+    constexpr std::uint32_t allPlanes = ~0U;
+    const auto cookie = xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, root, place->dst_x, place->dst_y,
+                                      1, 1, allPlanes);
+    const Reply<xcb_get_image_reply_t> image(xcb_get_image_reply(connection, cookie, nullptr));
+    if (!image || xcb_get_image_data_length(image.get()) < 4)
+        return std::nullopt;
+    const std::uint8_t* bgr = xcb_get_image_data(image.get());
+    return QColor(bgr[2], bgr[1], bgr[0]);
 }
 
 std::optional<int> TrayManager::grantedWidth(std::uint32_t window) const {

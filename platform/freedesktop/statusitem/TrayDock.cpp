@@ -1,0 +1,52 @@
+#include "platform/freedesktop/statusitem/TrayDock.h"
+
+#include "platform/freedesktop/statusitem/TrayManager.h"
+
+#include <QWidget>
+
+#include <chrono>
+
+namespace tambrelle {
+
+namespace {
+
+/// The bar reparents the window between the request and its being shown; shown earlier it flashes on the
+/// desktop.
+constexpr std::chrono::milliseconds untilShown{150};
+
+/// Bars lay out their items within this time of a change.
+constexpr std::chrono::milliseconds untilLaidOut{500};
+
+} // namespace
+
+TrayDock::TrayDock(const TrayManager& tray, QWidget& window, QObject* parent)
+    : QObject(parent), tray(tray), window(window) {
+    layout.setSingleShot(true);
+    layout.setInterval(untilLaidOut);
+    connect(&layout, &QTimer::timeout, this, &TrayDock::look);
+}
+
+void TrayDock::settle() {
+    if (docked)
+        layout.start();
+    else
+        dock();
+}
+
+void TrayDock::dock() {
+    docked = true;
+    const auto id = static_cast<std::uint32_t>(window.winId());
+    tray.dock(id);
+    QTimer::singleShot(untilShown, this, [this, id] {
+        window.show();
+        tray.markShown(id);
+        layout.start();
+    });
+}
+
+void TrayDock::look() {
+    const auto width = tray.grantedWidth(static_cast<std::uint32_t>(window.winId()));
+    emit settled(width ? std::optional<int>(qRound(*width / window.devicePixelRatioF())) : std::nullopt);
+}
+
+} // namespace tambrelle

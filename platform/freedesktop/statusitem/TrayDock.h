@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+#include <optional>
+
+class QWidget;
+
+namespace tambrelle {
+
+class TrayManager;
+
+/// Brings one window of ours into the tray and tells what room the bar gives it.
+class TrayDock final : public QObject {
+    Q_OBJECT
+
+public:
+    /// `tray` and `window` outlive this object; the window is not shown yet.
+    TrayDock(const TrayManager& tray, QWidget& window, QObject* parent = nullptr);
+
+    /// Asks for a place on the first call; later ones, after a change of size, ask only how it came out.
+    void settle();
+
+signals:
+    /// The bar has laid out its items: the window's width there in logical pixels; absent when it was not
+    /// taken.
+    void settled(std::optional<int> width);
+
+private:
+    void dock();
+    void look();
+
+    const TrayManager& tray;
+    QWidget& window;
+    QTimer layout;
+    bool docked = false;
+};
+
+} // namespace tambrelle
