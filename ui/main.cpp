@@ -1,4 +1,4 @@
-#include "platform/freedesktop/DisplayCheck.h"
+#include "platform/freedesktop/Display.h"
 #include "platform/freedesktop/EmojiFont.h"
 #include "platform/freedesktop/FreedesktopPlatform.h"
 #include "ui/TambrelleApp.h"
@@ -11,7 +11,7 @@
 int main(int argc, char** argv) {
     using namespace tambrelle;
     // The toolkit aborts where it finds no display; a user is owed a sentence and a status.
-    if (!hasDisplay(argc, argv)) {
+    if (!prepareDisplay(argc, argv)) {
         std::fputs("tambrelle: no display to show the calendar on\n", stderr);
         return EXIT_FAILURE;
     }

@@ -14,19 +14,31 @@ namespace {
 /// How long a silent bus may keep the line from the screen.
 constexpr std::chrono::milliseconds busPatience{1000};
 
-/// What suits the program that takes the items, by its name as the kernel has it.
-NotifierAppearance appearanceFor(const QString& program) {
-    if (program == QLatin1String("gnome-shell"))
-        return {.style = {.label = true, .menu = false, .refuseClicks = true}, .wideLine = false};
-    if (program == QLatin1String("notification-ar") || program == QLatin1String("ayatana-indicat"))
-        return {.style = {.label = true, .menu = true, .refuseClicks = false}, .wideLine = false};
-    if (program == QLatin1String("waybar"))
-        return {.style = {.label = false, .menu = true, .refuseClicks = false}, .wideLine = true};
-    return {};
-}
+/// How one program that takes items over the bus is best served.
+struct Bar {
+    NotifierAppearance appearance;
+    bool showsLine = false;        ///< The line can be read in the bar itself.
+    bool betterThanDocked = false; ///< Its X11 tray, if it has one, does not keep a docked window in the bar.
+};
 
-bool showsLine(const NotifierAppearance& appearance) {
-    return appearance.style.label || appearance.wideLine;
+/// By the name of the program that owns the watcher, as the kernel has it.
+Bar barOf(const QString& program) {
+    if (program == QLatin1String("gnome-shell"))
+        return {
+            .appearance = {.style = {.label = true, .menu = false, .refuseClicks = true}, .wideLine = false},
+            .showsLine = true,
+            .betterThanDocked = true};
+    if (program == QLatin1String("notification-ar") || program == QLatin1String("ayatana-indicat"))
+        return {
+            .appearance = {.style = {.label = true, .menu = true, .refuseClicks = false}, .wideLine = false},
+            .showsLine = true,
+            .betterThanDocked = false};
+    if (program == QLatin1String("waybar"))
+        return {
+            .appearance = {.style = {.label = false, .menu = true, .refuseClicks = false}, .wideLine = true},
+            .showsLine = true,
+            .betterThanDocked = false};
+    return {};
 }
 
 } // namespace
@@ -68,21 +80,20 @@ void FreedesktopStatusItem::present(const StatusItemContent& next) {
 
 void FreedesktopStatusItem::choose() {
     presentations.clear();
-    if (!content)
+    if (!content || !watcherKnown)
         return;
-    if (tray.isPresent() && !lineRefused) {
+    const Bar bar = barOf(watcher.program());
+    const bool notified = watcher.isPresent() && !watcherRefused;
+    const bool docked = tray.isPresent() && !lineRefused && !(notified && bar.betterThanDocked);
+    if (docked) {
         add(std::make_unique<DockedLinePresentation>(tray), [this] { lineRefused = true; });
         return;
     }
-    if (!watcherKnown)
-        return;
-    const NotifierAppearance appearance = appearanceFor(watcher.program());
-    const bool notified = watcher.isPresent() && !watcherRefused;
     if (notified)
-        add(std::make_unique<NotifierPresentation>(appearance), [this] { watcherRefused = true; });
+        add(std::make_unique<NotifierPresentation>(bar.appearance), [this] { watcherRefused = true; });
     else if (tray.isPresent() && !iconRefused)
         add(std::make_unique<DockedIconPresentation>(tray), [this] { iconRefused = true; });
-    if (!notified || !showsLine(appearance))
+    if (!notified || !bar.showsLine)
         add(std::make_unique<FloatingLabelPresentation>(), [] {});
 }
 

@@ -35,11 +35,9 @@ void TrayDock::settle() {
 
 void TrayDock::dock() {
     docked = true;
-    const auto id = static_cast<std::uint32_t>(window.winId());
-    tray.dock(id);
-    QTimer::singleShot(untilShown, this, [this, id] {
+    tray.dock(static_cast<std::uint32_t>(window.winId()));
+    QTimer::singleShot(untilShown, this, [this] {
         window.show();
-        tray.markShown(id);
         layout.start();
     });
 }

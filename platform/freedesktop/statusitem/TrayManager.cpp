@@ -84,8 +84,7 @@ std::optional<QColor> TrayManager::foreground() const {
 }
 
 void TrayManager::dock(std::uint32_t window) const {
-    // Marked as shown already, some bars would show it themselves, behind the toolkit's back.
-    setEmbeddingInfo(window, 0);
+    setEmbeddingInfo(window);
     xcb_client_message_event_t request{};
     request.response_type = XCB_CLIENT_MESSAGE;
     request.format = 32;
@@ -98,13 +97,8 @@ void TrayManager::dock(std::uint32_t window) const {
     xcb_flush(connection);
 }
 
-void TrayManager::markShown(std::uint32_t window) const {
-    setEmbeddingInfo(window, xembedMapped);
-    xcb_flush(connection);
-}
-
-void TrayManager::setEmbeddingInfo(std::uint32_t window, std::uint32_t flags) const {
-    const std::array<std::uint32_t, 2> info{xembedVersion, flags};
+void TrayManager::setEmbeddingInfo(std::uint32_t window) const {
+    const std::array<std::uint32_t, 2> info{xembedVersion, xembedMapped};
     const xcb_atom_t property = atom(connection, "_XEMBED_INFO");
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, property, property, 32, info.size(),
                         info.data());

@@ -28,9 +28,6 @@ public:
     /// Asks the tray to take `window`, which is not shown yet, and marks it as one that can be embedded.
     void dock(std::uint32_t window) const;
 
-    /// Tells the tray that the docked `window` is shown now.
-    void markShown(std::uint32_t window) const;
-
     /// The width that the bar has given to `window`, in device pixels; absent while the window is not in a
     /// bar.
     [[nodiscard]] std::optional<int> grantedWidth(std::uint32_t window) const;
@@ -46,7 +43,7 @@ signals:
 private:
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
     void look();
-    void setEmbeddingInfo(std::uint32_t window, std::uint32_t flags) const;
+    void setEmbeddingInfo(std::uint32_t window) const;
     void listenTo(std::uint32_t window, std::uint32_t events) const;
 
     xcb_connection_t* connection = nullptr;

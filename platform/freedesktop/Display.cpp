@@ -1,4 +1,4 @@
-#include "platform/freedesktop/DisplayCheck.h"
+#include "platform/freedesktop/Display.h"
 
 #include <QByteArray>
 
@@ -40,6 +40,12 @@ bool waylandAnswers() {
     return answers;
 }
 
+/// Whether the session's compositor places a window of ours where we ask only by way of its X11 server.
+bool placesOnlyX11Windows() {
+    return qgetenv("XDG_CURRENT_DESKTOP").contains("GNOME") &&
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
 bool namesAnotherPlatform(std::span<const char* const> arguments) {
     for (const std::string_view argument : arguments) {
         if (argument == "-platform" || argument == "--platform")
@@ -51,8 +57,13 @@ bool namesAnotherPlatform(std::span<const char* const> arguments) {
 
 } // namespace
 
-bool hasDisplay(int argc, const char* const* argv) {
-    return namesAnotherPlatform({argv, static_cast<std::size_t>(argc)}) || x11Answers() || waylandAnswers();
+bool prepareDisplay(int argc, const char* const* argv) {
+    if (namesAnotherPlatform({argv, static_cast<std::size_t>(argc)}))
+        return true;
+    const bool x11 = x11Answers();
+    if (x11 && placesOnlyX11Windows() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
+    return x11 || waylandAnswers();
 }
 
 } // namespace tambrelle
