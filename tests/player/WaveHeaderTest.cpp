@@ -1,0 +1,33 @@
+#include "player/WaveHeader.h"
+
+#include <QByteArray>
+
+#include <gtest/gtest.h>
+
+using namespace tambrelle;
+
+namespace {
+
+// A size of 0x24: 36 bytes after the preamble's 8.
+const QByteArray header("RIFF\x24\0\0\0WAVEfmt ", 16);
+
+} // namespace
+
+TEST(WaveHeader, IsKeptByAFileOfItsSizeOrMore) {
+    EXPECT_FALSE(promisesMoreThanFile(header, 44));
+    EXPECT_FALSE(promisesMoreThanFile(header, 45));
+}
+
+TEST(WaveHeader, IsBrokenByAShorterFile) {
+    EXPECT_TRUE(promisesMoreThanFile(header, 43));
+}
+
+TEST(WaveHeader, PromisesNothingWhenStreamed) {
+    EXPECT_FALSE(promisesMoreThanFile(QByteArray("RIFF\xFF\xFF\xFF\xFFWAVEfmt ", 16), 44));
+}
+
+TEST(WaveHeader, IsNotSeenInOtherFiles) {
+    EXPECT_FALSE(promisesMoreThanFile(QByteArray("ID3\x04\0\0\0\0\0#TSSE", 15), 20));
+    EXPECT_FALSE(promisesMoreThanFile(QByteArray("RIFF\x24", 5), 5));
+    EXPECT_FALSE(promisesMoreThanFile(QByteArray(), 0));
+}
