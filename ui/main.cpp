@@ -1,3 +1,4 @@
+#include "platform/freedesktop/ApplicationService.h"
 #include "platform/freedesktop/Display.h"
 #include "platform/freedesktop/EmojiFont.h"
 #include "platform/freedesktop/FreedesktopPlatform.h"
@@ -7,6 +8,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 int main(int argc, char** argv) {
     using namespace tambrelle;
@@ -22,7 +24,16 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
 
     preferEmojiFont();
-    FreedesktopPlatform platform;
-    const TambrelleApp tambrelle(platform.ports());
+
+    ApplicationService service;
+    std::optional<FreedesktopPlatform> platform;
+    std::optional<TambrelleApp> tambrelle;
+    QObject::connect(&service, &ApplicationService::claimed, &application, [&] {
+        platform.emplace();
+        tambrelle.emplace(platform->ports());
+    });
+    QObject::connect(&service, &ApplicationService::deferred, &application, &QCoreApplication::quit);
+    QObject::connect(&service, &ApplicationService::quitRequested, &application, &QCoreApplication::quit);
+    service.claim();
     return QApplication::exec();
 }

@@ -1,0 +1,107 @@
+#include "platform/freedesktop/ApplicationService.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+#include <chrono>
+
+namespace tambrelle {
+
+namespace {
+
+const QString applicationName = QStringLiteral("org.tambrelle.Tambrelle");
+const QString applicationPath = QStringLiteral("/org/tambrelle/Tambrelle");
+const QString applicationInterface = QStringLiteral("org.freedesktop.Application");
+
+constexpr std::chrono::milliseconds busPatience{1000};
+
+/// RequestName's flag and the answer that means that another has the name.
+constexpr uint doNotQueue = 4;
+constexpr uint nameExists = 3;
+
+constexpr auto introspection = R"xml(
+<interface name="org.freedesktop.Application">
+  <method name="Activate"><arg name="platform_data" type="a{sv}" direction="in"/></method>
+  <method name="Open">
+    <arg name="uris" type="as" direction="in"/><arg name="platform_data" type="a{sv}" direction="in"/>
+  </method>
+  <method name="ActivateAction">
+    <arg name="action_name" type="s" direction="in"/><arg name="parameter" type="av" direction="in"/>
+    <arg name="platform_data" type="a{sv}" direction="in"/>
+  </method>
+</interface>
+)xml";
+
+} // namespace
+
+ApplicationService::ApplicationService(QObject* parent) : QDBusVirtualObject(parent) {
+    patience.setSingleShot(true);
+    connect(&patience, &QTimer::timeout, this, &ApplicationService::settle);
+}
+
+void ApplicationService::claim() {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    // On the bus before its name is, so that whoever sees the name finds the object.
+    bus.registerVirtualObject(applicationPath, this);
+    QDBusMessage request = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
+    request.setArguments({applicationName, doNotQueue});
+    patience.start(busPatience);
+    auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(request), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* call) {
+        call->deleteLater();
+        const QDBusPendingReply<uint> reply = *call;
+        if (reply.isValid() && reply.value() == nameExists && !settled)
+            deferToFirst();
+        else
+            settle();
+    });
+}
+
+void ApplicationService::settle() {
+    patience.stop();
+    if (settled)
+        return;
+    settled = true;
+    emit claimed();
+}
+
+void ApplicationService::deferToFirst() {
+    settled = true;
+    QDBusMessage activate = QDBusMessage::createMethodCall(applicationName, applicationPath,
+                                                           applicationInterface, QStringLiteral("Activate"));
+    activate.setArguments({QVariantMap()});
+    auto* answer = new QDBusPendingCallWatcher(
+        QDBusConnection::sessionBus().asyncCall(activate, static_cast<int>(busPatience.count())), this);
+    // Asked is enough: the first one may be busy, and this one is not wanted either way.
+    connect(answer, &QDBusPendingCallWatcher::finished, this, &ApplicationService::deferred);
+}
+
+QString ApplicationService::introspect(const QString& /*path*/) const {
+    return QString::fromLatin1(introspection);
+}
+
+bool ApplicationService::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
+    if (message.interface() != applicationInterface && !message.interface().isEmpty())
+        return false;
+    const QString member = message.member();
+    if (member == QLatin1String("Activate") || member == QLatin1String("Open")) {
+        emit activated();
+    } else if (member == QLatin1String("ActivateAction")) {
+        const QString action = message.arguments().value(0).toString();
+        if (action == QLatin1String("preferences"))
+            emit preferencesRequested();
+        else if (action == QLatin1String("quit"))
+            emit quitRequested();
+    } else {
+        return false;
+    }
+    if (message.isReplyRequired())
+        connection.send(message.createReply());
+    return true;
+}
+
+} // namespace tambrelle
