@@ -1,7 +1,6 @@
 #include "ui/MenuBarLabel.h"
 
 #include "app/CalendarManager.h"
-#include "platform/StatusItem.h"
 
 namespace tambrelle {
 
@@ -12,7 +11,11 @@ MenuBarLabel::MenuBarLabel(const CalendarManager& manager, StatusItem& item)
 }
 
 void MenuBarLabel::refresh() {
-    item.present({.line = manager.menuBarText(), .day = manager.todayDate().day});
+    const StatusItemContent content{.line = manager.menuBarText(), .day = manager.todayDate().day};
+    if (content == shown)
+        return;
+    shown = content;
+    item.present(content);
 }
 
 } // namespace tambrelle

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "platform/StatusItem.h"
 #include "ui/Refresher.h"
+
+#include <optional>
 
 namespace tambrelle {
 
 class CalendarManager;
-class StatusItem;
 
-/// Keeps the item in the status bar at the manager's line.
+/// Keeps the item in the status bar at the manager's line, and tells it only when that changes.
 class MenuBarLabel final {
 public:
     MenuBarLabel(const CalendarManager& manager, StatusItem& item);
@@ -17,6 +19,7 @@ private:
 
     const CalendarManager& manager;
     StatusItem& item;
+    std::optional<StatusItemContent> shown;
     Refresher refresher;
 };
 
