@@ -10,8 +10,18 @@ MenuBarLabel::MenuBarLabel(const CalendarManager& manager, StatusItem& item)
     refresh();
 }
 
+MenuBarLabel::Inputs MenuBarLabel::inputs() const {
+    const DecimalTime& time = manager.currentTime();
+    return {manager.todayDate(), time.hours, time.minutes, manager.menuBarFormat()};
+}
+
 void MenuBarLabel::refresh() {
-    const StatusItemContent content{.line = manager.menuBarText(), .day = manager.todayDate().day};
+    // Most ticks pass within a decimal minute; building the text only to find it unchanged is most of their cost.
+    const Inputs next = inputs();
+    if (next == builtFrom)
+        return;
+    builtFrom = next;
+    const StatusItemContent content{.line = manager.menuBarText(), .day = next.date.day};
     if (content == shown)
         return;
     shown = content;

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "core/MenuBarFormat.h"
+#include "core/RevolutionaryDate.h"
 #include "platform/StatusItem.h"
 #include "ui/Refresher.h"
 
+#include <cstdint>
 #include <optional>
 
 namespace tambrelle {
@@ -15,10 +18,22 @@ public:
     MenuBarLabel(const CalendarManager& manager, StatusItem& item);
 
 private:
+    /// All that the line is made of; the seconds are never shown.
+    struct Inputs {
+        RevolutionaryDate date;
+        std::int64_t hours;
+        std::int64_t minutes;
+        MenuBarFormat format;
+
+        bool operator==(const Inputs&) const = default;
+    };
+
     void refresh();
+    [[nodiscard]] Inputs inputs() const;
 
     const CalendarManager& manager;
     StatusItem& item;
+    std::optional<Inputs> builtFrom;
     std::optional<StatusItemContent> shown;
     Refresher refresher;
 };

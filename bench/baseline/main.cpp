@@ -1,0 +1,22 @@
+// What the toolkit itself costs: an application object, a status notifier item with a fixed text, and a
+// precise timer that wakes the program once a decimal second to do nothing. tambrelle is measured against it.
+#include "bench/baseline/BaselineItem.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <chrono>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    tambrelle::baseline::BaselineItem item;
+    item.registerWithBar();
+
+    QTimer timer;
+    timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&timer, &QTimer::timeout, &application, [] {});
+    timer.start(std::chrono::milliseconds(864));
+    return QApplication::exec();
+}
