@@ -12,7 +12,6 @@
 
 #include <benchmark/benchmark.h>
 #include <chrono>
-#include <cstdio>
 #include <cstdlib>
 #include <ctime>
 
