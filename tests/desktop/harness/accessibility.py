@@ -1,0 +1,125 @@
+"""The accessibility tree of a running program, read the way a screen reader does: AT-SPI over its own bus."""
+
+from gi.repository import GLib
+
+from .bus import Absent, Bus
+
+REGISTRY = "org.a11y.atspi.Registry"
+ROOT = "/org/a11y/atspi/accessible/root"
+NULL = "/org/a11y/atspi/null"
+ACCESSIBLE = "org.a11y.atspi.Accessible"
+
+# Bits of the state set that the tests ask for.
+STATES = {"checked": 4, "enabled": 8, "focused": 12, "sensitive": 24, "showing": 25, "visible": 30}
+
+
+class Node:
+    """One object of the tree. What has vanished meanwhile raises Absent, which is a LookupError."""
+
+    def __init__(self, bus, service, path):
+        self.bus = bus
+        self.service = service
+        self.path = path
+
+    def __repr__(self):
+        return f"<{self.role} {self.name!r}>"
+
+    def _call(self, interface, method, arguments=None):
+        return self.bus.call(self.service, self.path, interface, method, arguments)
+
+    @property
+    def name(self):
+        return self.bus.get(self.service, self.path, ACCESSIBLE, "Name")
+
+    @property
+    def description(self):
+        return self.bus.get(self.service, self.path, ACCESSIBLE, "Description")
+
+    @property
+    def role(self):
+        return self._call(ACCESSIBLE, "GetRoleName")
+
+    @property
+    def children(self):
+        return [Node(self.bus, service, path) for service, path in self._call(ACCESSIBLE, "GetChildren")
+                if path != NULL]
+
+    def has(self, state):
+        low, high = self._call(ACCESSIBLE, "GetState")
+        return bool((low | high << 32) >> STATES[state] & 1)
+
+    @property
+    def extents(self):
+        """x, y, width, height on the screen, in pixels."""
+        return tuple(self._call("org.a11y.atspi.Component", "GetExtents", GLib.Variant("(u)", (0,))))
+
+    @property
+    def actions(self):
+        return [name for name, *_ in self._call("org.a11y.atspi.Action", "GetActions")]
+
+    def act(self, action="Press"):
+        """Does the named action, which must be one that the object offers."""
+        offered = self.actions
+        if action not in offered:
+            raise AssertionError(f"{self!r} offers {offered}, not {action}")
+        if not self._call("org.a11y.atspi.Action", "DoAction", GLib.Variant("(i)", (offered.index(action),))):
+            raise AssertionError(f"{self!r} refused {action}")
+
+    def walk(self):
+        """This object and all below it; what vanishes on the way is passed over."""
+        yield self
+        try:
+            children = self.children
+        except Absent:
+            return
+        for child in children:
+            yield from child.walk()
+
+
+class Accessibility:
+    """The accessibility bus with its registry. Started here rather than by the desktop's launcher, so that its address is
+    known before any program starts and so that it serves programs that have no session bus."""
+
+    def __init__(self, processes):
+        self.bus = Bus(processes, "accessibility-bus", Bus.ACCESSIBILITY)
+
+    @property
+    def address(self):
+        return self.bus.address
+
+    def applications(self):
+        return Node(self.bus, REGISTRY, ROOT).children
+
+    def application(self, pid):
+        """The root of the process `pid`. Raises Absent while it has not come to the registry."""
+        for node in self.applications():
+            try:
+                if self.bus.pid_of(node.service) == pid:
+                    return node
+            except Absent:
+                continue
+        raise Absent(f"process {pid} is not in the accessibility tree")
+
+    def nodes(self, pid, role=None, name=None, showing=True):
+        """The objects of a process with this role and name, by default those that are on the screen."""
+        found = []
+        for node in self.application(pid).walk():
+            try:
+                if ((role is None or node.role == role) and (name is None or node.name == name)
+                        and (not showing or node.has("showing"))):
+                    found.append(node)
+            except Absent:
+                continue
+        return found
+
+    def node(self, pid, role=None, name=None, showing=True):
+        """The only such object. Raises Absent where there is none, AssertionError where there are several."""
+        found = self.nodes(pid, role, name, showing)
+        if not found:
+            raise Absent(f"no {role or 'object'} named {name!r}")
+        if len(found) > 1:
+            raise AssertionError(f"{len(found)} objects are a {role} named {name!r}")
+        return found[0]
+
+    def close(self):
+        self.bus.close()

@@ -1,0 +1,53 @@
+"""The wall clock of the program under test, through libfaketime."""
+
+import datetime
+import glob
+import os
+import time
+import zoneinfo
+
+
+class Clock:
+    """A clock that runs on from where it was last set. Only the program under test sees it, and the monotonic clock is
+    left alone: with that faked too, a step backwards would stall every timer."""
+
+    def __init__(self, directory, zone="Europe/Paris"):
+        self.zone = zone
+        self._file = directory / "clock"
+        self._active = False
+
+    def set(self, text, zone=None):
+        """Sets the clock to a local time "2025-11-15 12:00:00" of `zone`, by default the desktop's own zone."""
+        local = datetime.datetime.fromisoformat(text).replace(tzinfo=zoneinfo.ZoneInfo(zone or self.zone))
+        self.shift_to(local.timestamp())
+
+    def shift_to(self, epoch):
+        """Sets the clock to seconds since 1970-01-01 00:00:00 UTC."""
+        # A distance from the true clock rather than a date: a date would count from the reading process's own start.
+        # Renamed into place, so that no reader ever sees half a line.
+        new = self._file.with_suffix(".new")
+        new.write_text(f"{epoch - time.time():+.6f}\n")
+        os.replace(new, self._file)
+        self._active = True
+
+    def now(self):
+        """Seconds since 1970 by this clock."""
+        return time.time() + (float(self._file.read_text()) if self._active else 0.0)
+
+    def advance(self, seconds):
+        self.shift_to(self.now() + seconds)
+
+    def environment(self):
+        """What the program needs to see this clock; nothing while it was never set."""
+        if not self._active:
+            return {}
+        libraries = sorted(glob.glob("/usr/lib/*/faketime/libfaketime.so.1"))
+        if not libraries:
+            raise AssertionError("libfaketime is not installed")
+        return {
+            "LD_PRELOAD": libraries[0],
+            "FAKETIME_TIMESTAMP_FILE": str(self._file),
+            "FAKETIME_NO_CACHE": "1",
+            "FAKETIME_DONT_FAKE_MONOTONIC": "1",
+            "NO_FAKE_STAT": "1",
+        }

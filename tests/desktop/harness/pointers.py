@@ -1,0 +1,117 @@
+"""The pointer of each kind of display. Buttons: 1 left, 2 middle, 3 right."""
+
+import pathlib
+import sys
+
+from gi.repository import GLib
+
+from .waiting import until
+
+
+class XPointer:
+    def __init__(self, desktop):
+        self._run = desktop.processes.run
+
+    def move(self, x, y):
+        self._run("xdotool", "mousemove", "--sync", x, y)
+
+    def click(self, x, y, button=1):
+        self._run("xdotool", "mousemove", x, y, "click", button)
+
+    def press(self, button=1):
+        self._run("xdotool", "mousedown", button)
+
+    def release(self, button=1):
+        self._run("xdotool", "mouseup", button)
+
+    def scroll(self, steps):
+        """Steps down, or up where negative."""
+        if steps:
+            self._run("xdotool", "click", "--repeat", abs(steps), 5 if steps > 0 else 4)
+
+
+class VirtualPointer:
+    """sway has no pointer of its own when headless: a small client holds a virtual one and takes commands."""
+
+    WIDTH, HEIGHT = 1280, 720
+    _BUTTONS = {1: "left", 2: "middle", 3: "right"}
+
+    def __init__(self, desktop):
+        source = pathlib.Path(__file__).with_name("virtual_pointer.py")
+        # A copy, because the user that sway runs as need not be able to read this folder.
+        copy = desktop.directory / "virtual_pointer.py"
+        copy.write_bytes(source.read_bytes())
+        self._commands = desktop.directory / "pointer-commands"
+        self._commands.write_bytes(b"")
+        self._sent = 0
+        self._client = desktop.processes.start("pointer", sys.executable, copy, self._commands)
+        until("the virtual pointer is ready", lambda: "ready" in self._client.output())
+
+    def _tell(self, command):
+        self._sent += 1
+        with open(self._commands, "a", encoding="ascii") as commands:
+            commands.write(command + "\n")
+        until(f"the pointer has done: {command}", lambda: f"done {self._sent}\n" in self._client.output())
+
+    def move(self, x, y):
+        self._tell(f"move {x} {y} {self.WIDTH} {self.HEIGHT}")
+
+    def click(self, x, y, button=1):
+        self.move(x, y)
+        self.press(button)
+        self.release(button)
+
+    def press(self, button=1):
+        self._tell(f"press {self._BUTTONS[button]}")
+
+    def release(self, button=1):
+        self._tell(f"release {self._BUTTONS[button]}")
+
+    def scroll(self, steps):
+        self._tell(f"scroll {steps}")
+
+
+class ShellPointer:
+    """GNOME Shell in its unsafe mode evaluates scripts, which is how a headless one gets a pointer."""
+
+    _SEAT = "imports.gi.Clutter.get_default_backend().get_default_seat()"
+    _DEVICE = (f"(global._tambrellePointer ??= {_SEAT}.create_virtual_device("
+               "imports.gi.Clutter.InputDeviceType.POINTER_DEVICE))")
+    _NOW = "imports.gi.GLib.get_monotonic_time()"
+
+    def __init__(self, desktop):
+        self._desktop = desktop
+
+    def evaluate(self, script):
+        done, answer = self._desktop.bus.call("org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell", "Eval",
+                                              GLib.Variant("(s)", (script,)))
+        if not done:
+            raise AssertionError(f"the shell refused {script}: {answer}")
+        return answer
+
+    def picture(self):
+        file = self._desktop.directory / "screen.png"
+        self._desktop.bus.call("org.gnome.Shell.Screenshot", "/org/gnome/Shell/Screenshot",
+                               "org.gnome.Shell.Screenshot", "Screenshot",
+                               GLib.Variant("(bbs)", (False, False, str(file))))
+        return self._desktop.processes.run("convert", file, "-depth", "8", "ppm:-")
+
+    def move(self, x, y):
+        self.evaluate(f"{self._DEVICE}.notify_absolute_motion({self._NOW}, {x}, {y}); 1")
+
+    def click(self, x, y, button=1):
+        self.move(x, y)
+        self.press(button)
+        self.release(button)
+
+    def press(self, button=1):
+        self.evaluate(f"{self._DEVICE}.notify_button({self._NOW}, {button}, 1); 1")
+
+    def release(self, button=1):
+        self.evaluate(f"{self._DEVICE}.notify_button({self._NOW}, {button}, 0); 1")
+
+    def scroll(self, steps):
+        direction = "DOWN" if steps > 0 else "UP"
+        for _ in range(abs(steps)):
+            self.evaluate(f"{self._DEVICE}.notify_discrete_scroll({self._NOW}, "
+                          f"imports.gi.Clutter.ScrollDirection.{direction}, 0); 1")
