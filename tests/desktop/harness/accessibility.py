@@ -1,8 +1,11 @@
 """The accessibility tree of a running program, read the way a screen reader does: AT-SPI over its own bus."""
 
+import sys
+
 from gi.repository import GLib
 
 from .bus import Absent, Bus
+from .waiting import until
 
 REGISTRY = "org.a11y.atspi.Registry"
 ROOT = "/org/a11y/atspi/accessible/root"
@@ -77,15 +80,15 @@ class Node:
 
 
 class Accessibility:
-    """The accessibility bus with its registry. Started here rather than by the desktop's launcher, so that its address is
-    known before any program starts and so that it serves programs that have no session bus."""
+    """The accessibility bus with its registry, and the service on the session bus that tells programs of it."""
 
     def __init__(self, processes):
-        self.bus = Bus(processes, "accessibility-bus", Bus.ACCESSIBILITY)
+        self._processes = processes
+        self.bus = Bus(processes, "accessibility-bus", Bus.ACCESSIBILITY, own_address_as="AT_SPI_BUS_ADDRESS")
 
-    @property
-    def address(self):
-        return self.bus.address
+    def announce(self, session_bus, script):
+        self._processes.start("accessibility-service", sys.executable, script, self.bus.address)
+        until("the session knows of the accessibility bus", lambda: session_bus.has_owner("org.a11y.Bus"))
 
     def applications(self):
         return Node(self.bus, REGISTRY, ROOT).children

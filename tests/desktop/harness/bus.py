@@ -39,13 +39,16 @@ class Bus:
     SESSION = "<standard_session_servicedirs/>"
     ACCESSIBILITY = "<servicedir>/usr/share/dbus-1/accessibility-services</servicedir>"
 
-    def __init__(self, processes, name, services):
+    def __init__(self, processes, name, services, own_address_as=None):
         socket = processes.directory / name
         configuration = processes.directory / f"{name}.conf"
         kind = "session" if services else "system"
         configuration.write_text(CONFIGURATION.format(kind=kind, socket=socket, services=services))
         self.address = f"unix:path={socket}"
-        self.process = processes.start(name, "dbus-daemon", f"--config-file={configuration}", "--nofork", "--nopidfile")
+        # Services that the bus starts may have to find it by a variable of that name.
+        environment = {own_address_as: self.address} if own_address_as else {}
+        self.process = processes.start(name, "dbus-daemon", f"--config-file={configuration}", "--nofork", "--nopidfile",
+                                       environment=environment)
         until(f"the {name} listens", lambda: socket.exists() or not self.process.running)
         self.connection = until(f"the {name} answers", self._connect)
 

@@ -76,9 +76,9 @@ class Desktop:
             self._become_other_user()
         self.host.start_display(self)
         self.accessibility = Accessibility(self.processes)
-        self.add_to_environment({"AT_SPI_BUS_ADDRESS": self.accessibility.address})
         self.bus = Bus(self.processes, "session-bus", Bus.SESSION)
         self.add_to_environment({"DBUS_SESSION_BUS_ADDRESS": self.bus.address})
+        self.accessibility.announce(self.bus, self.copy_of_script("accessibility_service.py"))
         self.host.start(self)
 
     def _become_other_user(self):
@@ -87,6 +87,12 @@ class Desktop:
         for place, folders, files in os.walk(self.directory):
             for path in (place, *(os.path.join(place, name) for name in folders + files)):
                 os.chown(path, user.pw_uid, user.pw_gid)
+
+    def copy_of_script(self, name):
+        """A script of this folder, copied to where any user can read it."""
+        copy = self.directory / name
+        copy.write_bytes(pathlib.Path(__file__).with_name(name).read_bytes())
+        return copy
 
     def start_x_server(self):
         reading, writing = os.pipe()
@@ -162,6 +168,10 @@ class Desktop:
 
     def item_of(self, program):
         return item_of(self.bus, program.pid)
+
+    def docked_windows(self, program):
+        """The program's windows that a bar or a tray holds."""
+        return [window for window in self.x11.windows_of(program.pid) if window.holders - {program.pid}]
 
     def restart_bar(self):
         self.host.restart_bar(self)

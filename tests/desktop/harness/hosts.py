@@ -187,15 +187,11 @@ bar {
         # i3 starts its bars itself, and again when its configuration is read again; there is no process of ours.
         self.bar = self.wm
 
-    def stop_bar(self, desktop):
-        desktop.processes.run("i3-msg", "bar", "mode", "invisible")
-        raise NotImplementedError("i3's bar is restarted, not stopped")
-
     def restart_bar(self, desktop):
-        before = desktop.x11.selection_owner("_NET_SYSTEM_TRAY_S0")
+        before = desktop.processes.named("i3bar")
         desktop.processes.run("i3-msg", "restart")
-        until("i3bar's tray is a new one",
-              lambda: desktop.x11.selection_owner("_NET_SYSTEM_TRAY_S0") not in (0, before), 30)
+        until("i3's bar is a new one",
+              lambda: (now := desktop.processes.named("i3bar")) and not now & before and desktop.x11.has_tray(), 30)
 
 
 class Xfce(Host):

@@ -1,6 +1,5 @@
 """The pointer of each kind of display. Buttons: 1 left, 2 middle, 3 right."""
 
-import pathlib
 import sys
 
 from gi.repository import GLib
@@ -37,14 +36,11 @@ class VirtualPointer:
     _BUTTONS = {1: "left", 2: "middle", 3: "right"}
 
     def __init__(self, desktop):
-        source = pathlib.Path(__file__).with_name("virtual_pointer.py")
-        # A copy, because the user that sway runs as need not be able to read this folder.
-        copy = desktop.directory / "virtual_pointer.py"
-        copy.write_bytes(source.read_bytes())
         self._commands = desktop.directory / "pointer-commands"
         self._commands.write_bytes(b"")
         self._sent = 0
-        self._client = desktop.processes.start("pointer", sys.executable, copy, self._commands)
+        self._client = desktop.processes.start("pointer", sys.executable, desktop.copy_of_script("virtual_pointer.py"),
+                                               self._commands)
         until("the virtual pointer is ready", lambda: "ready" in self._client.output())
 
     def _tell(self, command):

@@ -109,6 +109,19 @@ class Processes:
             raise AssertionError(f"{command[0]} ended with {done.returncode}: {done.stderr.decode(errors='replace')}")
         return done.stdout
 
+    def named(self, name):
+        """The pids of all processes of this desktop, started here or by one that was, whose command has this name."""
+        found = set()
+        for entry in filter(str.isdigit, os.listdir("/proc")):
+            place = pathlib.Path("/proc", entry)
+            try:
+                if ((place / "comm").read_text().strip() == name
+                        and f"{MARK}={self.mark}".encode() in (place / "environ").read_bytes().split(b"\0")):
+                    found.add(int(entry))
+            except OSError:
+                continue
+        return found
+
     def stop_all(self):
         for process in reversed(self._started):
             process.stop(limit=2.0)

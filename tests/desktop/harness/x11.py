@@ -50,7 +50,10 @@ _ANY_TYPE = 0
 
 @dataclasses.dataclass(frozen=True)
 class Window:
-    """A window on the screen: its place in the root's pixels and the process that says it owns it (None: says not)."""
+    """A window on the screen: its place in the root's pixels and the process that says it owns it (None: says not).
+
+    `holders` are the processes that own the windows around it: none for an ordinary window, a bar's for a docked one.
+    """
 
     id: int
     x: int
@@ -58,6 +61,7 @@ class Window:
     width: int
     height: int
     pid: int | None
+    holders: frozenset
 
 
 class Display:
@@ -115,21 +119,23 @@ class Display:
 
     def windows(self):
         """All viewable windows of the tree, from the bottom up."""
-        waiting, found = [self._root], []
+        waiting, found = [(self._root, frozenset())], []
         while waiting:
-            window = waiting.pop(0)
+            window, holders = waiting.pop(0)
             attributes = _Attributes()
             if not _x11.XGetWindowAttributes(self._display, window, ctypes.byref(attributes)):
                 continue
             if attributes.map_state != _VIEWABLE:
                 continue
+            pid = self.cardinal(window, "_NET_WM_PID")
             if window != self._root:
                 x, y, child = ctypes.c_int(), ctypes.c_int(), ctypes.c_ulong()
                 _x11.XTranslateCoordinates(self._display, window, self._root, 0, 0, ctypes.byref(x), ctypes.byref(y),
                                            ctypes.byref(child))
                 found.append(Window(window, x.value, y.value, attributes.width, attributes.height,
-                                    self.cardinal(window, "_NET_WM_PID")))
-            waiting.extend(self._children(window))
+                                    pid, holders))
+            around = holders | {pid} if pid else holders
+            waiting.extend((child, around) for child in self._children(window))
         return found
 
     def windows_of(self, pid):

@@ -1,0 +1,76 @@
+#!/usr/bin/python3
+"""The line in a bar that takes items or docks windows, and what happens when that bar ends and comes back."""
+
+from harness import DesktopTest, main, until
+
+NOON = "2025-11-15 12:00:00"
+LINE = "🌫️ 23 Brumaire · Tridi · 5:00"
+TWO_TICKS = 2 * 0.864
+BACK_WITHIN = 2.0
+
+
+class Item(DesktopTest):
+    """For hosts with a watcher and no tray, where the item is the only way into the bar."""
+
+    def test_title_is_the_line(self):
+        self.desktop.clock.set(NOON)
+        self.start_program().wait_for_title(LINE)
+
+    def test_tooltip_tells_the_line(self):
+        self.desktop.clock.set(NOON)
+        item = self.start_program().wait_for_title(LINE)
+        _icon, _pixmaps, title, text = item["ToolTip"]
+        self.assertEqual(title, LINE)
+        self.assertNotIn("&", text)
+        self.assertNotIn("<", text)
+
+    def test_title_follows_the_clock(self):
+        self.desktop.clock.set(NOON)
+        program = self.start_program()
+        program.wait_for_title(LINE)
+        for clock, line in (("2025-11-16 14:24:00", "🌫️ 24 Brumaire · Quartidi · 6:00"), (NOON, LINE)):
+            self.desktop.clock.set(clock)
+            program.wait_for_title(line, limit=TWO_TICKS)
+
+    def test_title_has_the_stored_format(self):
+        for stored, line in (("dateAndTime", LINE), ("date", "🌫️ 23 Brum."), ("decimalTime", "🌫️ 5:00"),
+                             ("dayNumber", "🌫️ 23")):
+            with self.subTest(stored=stored):
+                self.desktop.clock.set(NOON)
+                program = self.start_program(preferences={"menuBarFormat": stored})
+                program.wait_for_title(line)
+                program.stop()
+
+    def test_started_before_the_bar(self):
+        self.desktop.host.stop_bar(self.desktop)
+        self.desktop.clock.set(NOON)
+        program = self.start_program()
+        program.wait_for_text(LINE)  # meanwhile floating
+        self.desktop.host.start_bar(self.desktop)
+        self.desktop.host.wait_for_bar(self.desktop)
+        program.wait_for_title(LINE, limit=BACK_WITHIN)
+
+
+class Return(DesktopTest):
+    """For every host with a bar."""
+
+    def test_the_bar_comes_back_and_so_does_the_line(self):
+        self.desktop.clock.set(NOON)
+        program = self.start_program()
+        self.wait_until_in_bar(program)
+        for _ in range(2):
+            self.desktop.restart_bar()
+            self.wait_until_in_bar(program, BACK_WITHIN)
+
+    def wait_until_in_bar(self, program, limit=10.0):
+        def in_bar():
+            program.must_run()
+            if self.desktop.host.has_tray and self.desktop.docked_windows(program):
+                return True
+            return self.desktop.host.has_watcher and self.desktop.item_of(program).title == LINE
+
+        until("the line is in the bar", in_bar, limit)
+
+
+if __name__ == "__main__":
+    main()
