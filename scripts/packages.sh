@@ -27,7 +27,7 @@ packages_of() {
         ;;
     all-bars) # whole desktops
         echo mate-indicator-applet ayatana-indicator-application
-        echo plasma-workspace kwin-x11 kded5
+        echo plasma-desktop plasma-workspace kwin-x11 kded5
         echo gnome-shell gnome-shell-extension-appindicator xwayland
         echo sway waybar grim
         ;;

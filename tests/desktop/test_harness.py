@@ -121,10 +121,8 @@ class Hosts(DesktopTest):
         host = self.desktop.host
         if host.has_tray:
             self.assertTrue(self.desktop.x11.has_tray())
-        colours = self.desktop.picture().colours()
-        self.assertGreaterEqual(sum(colours.values()), 1280 * 720)
         if host.bar is not None:
-            self.assertGreater(len(colours), 1, "no bar is drawn")
+            until("the bar is drawn", lambda: len(self.desktop.picture().colours()) > 1, 20)
 
     def test_a_picture_sees_what_is_drawn(self):
         self.desktop.processes.start("colour", "display", "-size", "200x100", "-geometry", "+500+300", "xc:#123456")

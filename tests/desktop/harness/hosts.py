@@ -124,13 +124,18 @@ class Tint2(Host):
 
     def configure(self, desktop):
         desktop.write_config("tint2/tint2rc", """\
+rounded = 0
+background_color = #222222 100
 panel_items = FSC
+panel_background_id = 1
 panel_position = top center horizontal
 panel_size = 100% 26
 panel_monitor = all
 systray_padding = 4 2 2
 systray_icon_size = 22
 time1_format = %H:%M
+time1_font = DejaVu Sans 10
+clock_font_color = #eeeeee 100
 strut_policy = follow_size
 """)
 
@@ -374,6 +379,8 @@ disable-user-extensions=false
 welcome-dialog-last-shown-version='999'
 [org/gnome/desktop/interface]
 enable-animations=false
+[org/gnome/desktop/notifications]
+show-banners=false
 """)
 
     def start_system_bus(self, desktop):
@@ -386,17 +393,21 @@ enable-animations=false
         self.start_system_bus(desktop)
 
     def start_bar(self, desktop):
-        self.bar = desktop.processes.start("gnome-shell", "gnome-shell", "--x11")
+        self.bar = desktop.processes.start("gnome-shell", "gnome-shell", "--x11", "--unsafe-mode")
 
     def bar_is_up(self, desktop):
         return super().bar_is_up(desktop) and desktop.bus.has_owner("org.gnome.Shell")
 
     def wait_for_bar(self, desktop, limit=60.0):
         super().wait_for_bar(desktop, limit)
-        self.leave_overview(desktop)
+        until("the shell has started up",
+              lambda: self.shell(desktop).evaluate("Main.layoutManager._startingUp === false") == "true", limit)
+        # It starts with the overview of all windows.
+        self.shell(desktop).evaluate("Main.overview.hide(); 1")
+        until("the overview is closed", lambda: self.shell(desktop).evaluate("Main.overview.visible") == "false")
 
-    def leave_overview(self, desktop):
-        desktop.processes.run("xdotool", "key", "Escape")
+    def shell(self, desktop):
+        return ShellPointer(desktop)
 
     def restart_bar(self, desktop):
         # The shell is the session: what users see restart is the extension that holds the items.
@@ -446,12 +457,6 @@ class GnomeWayland(Gnome):
                       lambda: self.shell(desktop).evaluate("imports.gi.GLib.getenv('DISPLAY')"))
         authority = next(desktop.runtime.glob(".mutter-Xwaylandauth*"), None)
         desktop.add_to_environment({"DISPLAY": found.strip('"'), **({"XAUTHORITY": str(authority)} if authority else {})})
-
-    def shell(self, desktop):
-        return ShellPointer(desktop)
-
-    def leave_overview(self, desktop):
-        self.shell(desktop).evaluate("Main.overview.hide(); 1")
 
     def pointer(self, desktop):
         return self.shell(desktop)

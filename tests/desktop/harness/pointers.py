@@ -4,6 +4,7 @@ import sys
 
 from gi.repository import GLib
 
+from .bus import Absent
 from .waiting import until
 
 
@@ -82,7 +83,7 @@ class ShellPointer:
         done, answer = self._desktop.bus.call("org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell", "Eval",
                                               GLib.Variant("(s)", (script,)))
         if not done:
-            raise AssertionError(f"the shell refused {script}: {answer}")
+            raise Absent(f"the shell refused {script}: {answer}")
         return answer
 
     def picture(self):
