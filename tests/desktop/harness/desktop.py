@@ -129,6 +129,7 @@ class Desktop:
             if connected is not None:
                 connected.close()
         self.processes.stop_all()
+        self.clock.remove()
         shutil.rmtree(self.directory, ignore_errors=True)
 
     def __enter__(self):
@@ -170,8 +171,8 @@ class Desktop:
         return item_of(self.bus, program.pid)
 
     def docked_windows(self, program):
-        """The program's windows that a bar or a tray holds."""
-        return [window for window in self.x11.windows_of(program.pid) if window.holders - {program.pid}]
+        """The program's windows that a tray holds."""
+        return [window for window in self.x11.windows_of(program.pid) if window.docked]
 
     def restart_bar(self):
         self.host.restart_bar(self)

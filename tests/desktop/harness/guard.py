@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """guard.py VARIABLE MARK DIRECTORY: when standard input closes, ends every process whose environment holds
-VARIABLE=MARK, and removes DIRECTORY. Runs in a session of its own, so that an interrupted test still has its guard."""
+VARIABLE=MARK, and removes DIRECTORY and what is named after it in /dev/shm. Runs in a session of its own, so that an interrupted test still has its guard."""
 
+import glob
 import os
 import shutil
 import signal
@@ -43,6 +44,8 @@ def main():
         time.sleep(0.05)
         if time.monotonic() > deadline + 10:
             break  # in the kernel's hands
+    for file in glob.glob(f"/dev/shm/*{os.path.basename(directory)}*"):
+        os.unlink(file)
     shutil.rmtree(directory, ignore_errors=True)
 
 

@@ -27,6 +27,7 @@ class Host:
     xdg_name = ""           # XDG_CURRENT_DESKTOP
     refuses_root = False
     wayland = False
+    seen_when_empty = True  # draws something even without items
 
     def __init_subclass__(cls):
         if cls.name:
@@ -110,6 +111,7 @@ class Trayer(Host):
     name = "trayer"
     needs = ("Xvfb", "openbox", "trayer")
     has_tray = True
+    seen_when_empty = False
 
     def start_bar(self, desktop):
         self.bar = desktop.processes.start(
@@ -359,7 +361,8 @@ class Plasma(Host):
         super().wait_for_bar(desktop, limit)
 
     def stop_bar(self, desktop):
-        self.bar.stop()  # kded5 keeps the watcher
+        self.bar.stop()
+        until("kded5, which keeps the watcher, has seen the bar go", lambda: not watcher_ready(desktop.bus))
 
 
 class _GnomeShell(Host):

@@ -52,7 +52,7 @@ _ANY_TYPE = 0
 class Window:
     """A window on the screen: its place in the root's pixels and the process that says it owns it (None: says not).
 
-    `holders` are the processes that own the windows around it: none for an ordinary window, a bar's for a docked one.
+    `docked`: held by a tray, as the embedding protocol has it, rather than managed or on its own.
     """
 
     id: int
@@ -61,7 +61,7 @@ class Window:
     width: int
     height: int
     pid: int | None
-    holders: frozenset
+    docked: bool
 
 
 class Display:
@@ -117,25 +117,28 @@ class Display:
             _x11.XFree(children)
         return found
 
+    def _is_docked(self, window, parent):
+        # A window manager's frame is around a window too, but what it manages has a WM_STATE.
+        return (parent != self._root and self.cardinal(window, "_XEMBED_INFO") is not None
+                and self.cardinal(window, "WM_STATE") is None)
+
     def windows(self):
         """All viewable windows of the tree, from the bottom up."""
-        waiting, found = [(self._root, frozenset())], []
+        waiting, found = [(self._root, None)], []
         while waiting:
-            window, holders = waiting.pop(0)
+            window, parent = waiting.pop(0)
             attributes = _Attributes()
             if not _x11.XGetWindowAttributes(self._display, window, ctypes.byref(attributes)):
                 continue
             if attributes.map_state != _VIEWABLE:
                 continue
-            pid = self.cardinal(window, "_NET_WM_PID")
             if window != self._root:
                 x, y, child = ctypes.c_int(), ctypes.c_int(), ctypes.c_ulong()
                 _x11.XTranslateCoordinates(self._display, window, self._root, 0, 0, ctypes.byref(x), ctypes.byref(y),
                                            ctypes.byref(child))
                 found.append(Window(window, x.value, y.value, attributes.width, attributes.height,
-                                    pid, holders))
-            around = holders | {pid} if pid else holders
-            waiting.extend((child, around) for child in self._children(window))
+                                    self.cardinal(window, "_NET_WM_PID"), self._is_docked(window, parent)))
+            waiting.extend((child, window) for child in self._children(window))
         return found
 
     def windows_of(self, pid):
