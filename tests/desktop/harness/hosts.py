@@ -362,7 +362,15 @@ class Plasma(Host):
 
     def stop_bar(self, desktop):
         self.bar.stop()
-        until("kded5, which keeps the watcher, has seen the bar go", lambda: not watcher_ready(desktop.bus))
+        until("Plasma's tray has left the bus", lambda: not self._tray_is_up(desktop))
+
+    def bar_is_up(self, desktop):
+        return super().bar_is_up(desktop) and self._tray_is_up(desktop)
+
+    @staticmethod
+    def _tray_is_up(desktop):
+        # kded5 keeps the watcher, and that says at all times that a bar is there.
+        return any(name.startswith("org.kde.StatusNotifierHost-") for name in desktop.bus.names())
 
 
 class _GnomeShell(Host):
