@@ -4,11 +4,13 @@
 #include "platform/freedesktop/EventLoopTimer.h"
 #include "platform/freedesktop/IniUserDefaults.h"
 #include "platform/freedesktop/InstalledResources.h"
-#include "platform/freedesktop/NoAudioPlayer.h"
-#include "platform/freedesktop/NoNotificationCenter.h"
 #include "platform/freedesktop/SystemClock.h"
 #include "platform/freedesktop/SystemRandomSource.h"
-#include "platform/freedesktop/ToolkitBeep.h"
+#include "platform/freedesktop/notifications/EventLoopWakeUp.h"
+#include "platform/freedesktop/notifications/FreedesktopNotificationService.h"
+#include "platform/freedesktop/notifications/ScheduledNotificationCenter.h"
+#include "platform/freedesktop/sound/SpawnedAudioPlayer.h"
+#include "platform/freedesktop/sound/ThemedSystemSound.h"
 #include "platform/freedesktop/statusitem/FreedesktopStatusItem.h"
 
 #include <QCoreApplication>
@@ -21,9 +23,11 @@ struct FreedesktopPlatform::Parts {
     SystemRandomSource random;
     IniUserDefaults defaults{IniUserDefaults::standardPath()};
     InstalledResources resources;
-    NoAudioPlayer audioPlayer;
-    ToolkitBeep systemSound;
-    NoNotificationCenter notifications;
+    SpawnedAudioPlayer audioPlayer{SpawnedAudioPlayer::standardProgram()};
+    ThemedSystemSound systemSound;
+    EventLoopWakeUp wakeUp{clock};
+    FreedesktopNotificationService notificationService{QDBusConnection::sessionBus()};
+    ScheduledNotificationCenter notifications{clock, wakeUp, notificationService};
     AutostartLoginItem loginItem{AutostartLoginItem::standardFolder(),
                                  QCoreApplication::applicationFilePath()};
     FreedesktopStatusItem statusItem;

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/freedesktop/notifications/NotificationService.h"
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+class QDBusError;
+
+namespace tambrelle {
+
+/// The session's org.freedesktop.Notifications (Desktop Notifications Specification 1.2). All calls are
+/// asynchronous, and no error is reported to anyone.
+class FreedesktopNotificationService final : public QObject, public NotificationService {
+public:
+    explicit FreedesktopNotificationService(const QDBusConnection& bus);
+
+    void whenReachable(std::function<void()> reachable) override;
+    void show(const UserNotificationRequest& request, PresentationOptions options) override;
+
+private:
+    struct Notification {
+        UserNotificationRequest request;
+        PresentationOptions options;
+    };
+
+    void ask();
+    void answered();
+    void arrived();
+    void send(const Notification& notification);
+    void notify(const Notification& notification, bool readsMarkup);
+
+    QDBusConnection bus;
+    std::vector<std::function<void()>> waiting;
+    std::optional<Notification> unshown;
+};
+
+} // namespace tambrelle

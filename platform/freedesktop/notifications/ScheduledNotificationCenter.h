@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/UserNotificationCenter.h"
+
+namespace tambrelle {
+
+class Clock;
+class NotificationService;
+class WakeUp;
+
+/// Keeps the requests until the wall clock shows their minute. A desktop's notification service knows no
+/// schedule, so that this process keeps the time.
+class ScheduledNotificationCenter final : public UserNotificationCenter {
+public:
+    /// None is owned; all outlive this object.
+    ScheduledNotificationCenter(const Clock& clock, WakeUp& wakeUp, NotificationService& service);
+    ~ScheduledNotificationCenter() override;
+
+    ScheduledNotificationCenter(const ScheduledNotificationCenter&) = delete;
+    ScheduledNotificationCenter& operator=(const ScheduledNotificationCenter&) = delete;
+
+    void setDelegate(UserNotificationCenterDelegate* next) override { delegate = next; }
+    /// `completion` is called with true once a service answers, which may be long after; with false never,
+    /// since a service may always still start.
+    void requestAuthorization(std::function<void(bool granted)> completion) override;
+    void removeAllPending() override;
+    void add(const UserNotificationRequest& request) override;
+    [[nodiscard]] std::vector<UserNotificationRequest> pending() const override { return requests; }
+
+private:
+    void deliverDue();
+    void armWakeUp();
+
+    const Clock& clock;
+    WakeUp& wakeUp;
+    NotificationService& service;
+    UserNotificationCenterDelegate* delegate = nullptr;
+    std::vector<UserNotificationRequest> requests;
+};
+
+} // namespace tambrelle

@@ -1,0 +1,80 @@
+#include "platform/freedesktop/sound/SpawnedAudioPlayer.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+
+#include <chrono>
+
+namespace tambrelle {
+
+namespace {
+
+constexpr int badFile = 1;
+constexpr std::chrono::milliseconds longestGoodbye{500};
+
+/// Why the player ended before its sound did; empty when it did not.
+QString reasonOf(QProcess& player, int status, QProcess::ExitStatus ending) {
+    if (ending == QProcess::CrashExit)
+        return QStringLiteral("the player died of it");
+    if (status != badFile)
+        return {};
+    const QString text = QString::fromLocal8Bit(player.readAllStandardError()).simplified();
+    return text.isEmpty() ? QStringLiteral("the player gave no reason") : text;
+}
+
+} // namespace
+
+SpawnedAudioPlayer::SpawnedAudioPlayer(const QString& program) : program(program) {}
+
+SpawnedAudioPlayer::~SpawnedAudioPlayer() {
+    silence();
+    // A killed process is gone at once; the wait takes note of it, and the limit is for one that the kernel
+    // holds.
+    for (QProcess* const player : findChildren<QProcess*>())
+        player->waitForFinished(static_cast<int>(longestGoodbye.count()));
+}
+
+QString SpawnedAudioPlayer::standardProgram() {
+    const QString name = QStringLiteral("/tambrelle-player");
+    const QString beside = QCoreApplication::applicationDirPath() + name;
+    if (QFile::exists(beside))
+        return beside;
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../libexec/tambrelle") + name;
+}
+
+void SpawnedAudioPlayer::play(const QString& file, double volume, Failure onFailure) {
+    silence();
+    auto* const player = new QProcess(this);
+    sounding = player;
+    player->setStandardInputFile(QProcess::nullDevice());
+    player->setStandardOutputFile(QProcess::nullDevice());
+    // Queued: a program that can't be started may say so from within start().
+    connect(
+        player, &QProcess::errorOccurred, this,
+        [player, onFailure](QProcess::ProcessError error) {
+            if (error != QProcess::FailedToStart)
+                return;
+            player->deleteLater();
+            onFailure(player->errorString());
+        },
+        Qt::QueuedConnection);
+    connect(player, &QProcess::finished, this, [player, onFailure](int status, QProcess::ExitStatus ending) {
+        player->deleteLater();
+        if (const QString reason = reasonOf(*player, status, ending); !reason.isEmpty())
+            onFailure(reason);
+    });
+    player->start(program, {QString::number(volume), file});
+}
+
+void SpawnedAudioPlayer::silence() {
+    if (!sounding)
+        return;
+    // Its failure has lost its meaning, but its end has to be waited for, or a zombie is left.
+    sounding->disconnect(this);
+    connect(sounding, &QProcess::finished, sounding, &QObject::deleteLater);
+    sounding->kill();
+    sounding.clear();
+}
+
+} // namespace tambrelle

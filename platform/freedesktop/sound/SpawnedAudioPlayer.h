@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/AudioPlayer.h"
+
+#include <QObject>
+#include <QPointer>
+
+class QProcess;
+
+namespace tambrelle {
+
+/// Plays each sound in a child process that ends with it, so that no media framework stays in this one and no
+/// sound server can hold it up.
+class SpawnedAudioPlayer final : public QObject, public AudioPlayer {
+public:
+    /// `program` is called with the volume and the file; it ends with status 1 and a line on standard error
+    /// when the file can't be opened or decoded.
+    explicit SpawnedAudioPlayer(const QString& program);
+    /// Silences what still plays.
+    ~SpawnedAudioPlayer() override;
+
+    /// Where the player lies: beside this program in a build tree, else in libexec under the same prefix.
+    static QString standardProgram();
+
+    void play(const QString& file, double volume, Failure onFailure) override;
+
+private:
+    void silence();
+
+    QString program;
+    QPointer<QProcess> sounding;
+};
+
+} // namespace tambrelle

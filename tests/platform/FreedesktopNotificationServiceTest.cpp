@@ -1,0 +1,246 @@
+#include "platform/freedesktop/notifications/FreedesktopNotificationService.h"
+
+#include "tests/platform/PrivateBus.h"
+#include "tests/support/EventLoop.h"
+
+#include <QDBusConnection>
+#include <QDBusContext>
+#include <QDBusMessage>
+#include <QElapsedTimer>
+#include <QVariantMap>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using namespace tambrelle;
+using namespace std::chrono_literals;
+
+namespace tambrelle::test {
+
+struct Shown {
+    QString application;
+    uint replaces = 0;
+    QString icon;
+    QString summary;
+    QString body;
+    QStringList actions;
+    QVariantMap hints;
+    int expiry = 0;
+};
+
+/// A notification service that records what it is told to show.
+class RecordingServer final : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public:
+    enum class Manner { Answers, Refuses, KeepsSilent };
+
+    std::vector<Shown> shown;
+    QStringList capabilities{QStringLiteral("body")};
+    Manner manner = Manner::Answers;
+
+public slots:
+    QStringList GetCapabilities() { // NOLINT: the protocol's own name
+        behave();
+        return capabilities;
+    }
+
+    uint Notify(const QString& application, uint replaces, const QString& icon, const QString& summary,
+                const QString& body, const QStringList& actions, const QVariantMap& hints, int expiry) {
+        shown.push_back({application, replaces, icon, summary, body, actions, hints, expiry});
+        behave();
+        return static_cast<uint>(shown.size());
+    }
+
+private:
+    void behave() {
+        if (manner == Manner::Refuses)
+            sendErrorReply(QStringLiteral("org.example.Broken"), QStringLiteral("out of order"));
+        if (manner == Manner::KeepsSilent)
+            setDelayedReply(true);
+    }
+};
+
+} // namespace tambrelle::test
+
+namespace {
+
+using test::RecordingServer;
+
+const QString serviceName = QStringLiteral("org.freedesktop.Notifications");
+
+QDBusConnection connectTo(const QString& address, const char* name) {
+    return QDBusConnection::connectToBus(address, QString::fromLatin1(name));
+}
+
+UserNotificationRequest morning(const QString& body = QStringLiteral("🍇 Raisin")) {
+    return {.identifier = QStringLiteral("daily-2026-3-7"),
+            .title = QStringLiteral("17 Ventôse, An CCXXXIV"),
+            .body = body,
+            .trigger = {}};
+}
+
+constexpr PresentationOptions both{.banner = true, .sound = true};
+
+class FreedesktopNotificationServiceTest : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_FALSE(bus.address().isEmpty()) << "no dbus-daemon"; }
+
+    ~FreedesktopNotificationServiceTest() override {
+        QDBusConnection::disconnectFromBus(QStringLiteral("client"));
+        QDBusConnection::disconnectFromBus(QStringLiteral("server"));
+    }
+
+    void startServer() {
+        ASSERT_TRUE(serverSide.registerObject(QStringLiteral("/org/freedesktop/Notifications"), &server,
+                                              QDBusConnection::ExportAllSlots));
+        ASSERT_TRUE(serverSide.registerService(serviceName));
+    }
+
+    void stopServer() {
+        ASSERT_TRUE(serverSide.unregisterService(serviceName));
+        serverSide.unregisterObject(QStringLiteral("/org/freedesktop/Notifications"));
+    }
+
+    bool waitForShown(std::size_t count) {
+        return test::waitUntil([&] { return server.shown.size() >= count; });
+    }
+
+    /// The bus carries messages in order: when this comes back, all sent before it has been dealt with.
+    void settle() {
+        bool back = false;
+        QObject context;
+        probe = std::make_unique<FreedesktopNotificationService>(clientSide);
+        probe->whenReachable([&back] { back = true; });
+        EXPECT_TRUE(test::waitUntil([&] { return back; }));
+    }
+
+    test::PrivateBus bus;
+    QDBusConnection clientSide = connectTo(bus.address(), "client");
+    QDBusConnection serverSide = connectTo(bus.address(), "server");
+    RecordingServer server;
+    FreedesktopNotificationService service{clientSide};
+    std::unique_ptr<FreedesktopNotificationService> probe;
+};
+
+} // namespace
+
+TEST_F(FreedesktopNotificationServiceTest, SendsTitleBodyAndHints) {
+    startServer();
+    service.show(morning(), both);
+    ASSERT_TRUE(waitForShown(1));
+    const test::Shown& shown = server.shown.front();
+    EXPECT_EQ(shown.application, "Tambrelle");
+    EXPECT_EQ(shown.replaces, 0U);
+    EXPECT_EQ(shown.summary, morning().title);
+    EXPECT_EQ(shown.body, morning().body);
+    EXPECT_TRUE(shown.actions.isEmpty());
+    EXPECT_EQ(shown.expiry, -1);
+    EXPECT_EQ(shown.hints.value("desktop-entry"), "org.tambrelle.Tambrelle");
+    EXPECT_EQ(shown.hints.value("urgency").metaType(), QMetaType::fromType<uchar>());
+    EXPECT_EQ(shown.hints.value("urgency").toInt(), 1);
+    EXPECT_FALSE(shown.hints.value("category").toString().isEmpty());
+    EXPECT_FALSE(shown.hints.value("sound-name").toString().isEmpty());
+    EXPECT_FALSE(shown.hints.contains("suppress-sound"));
+}
+
+TEST_F(FreedesktopNotificationServiceTest, EscapesTheBodyOnlyForAServiceThatReadsMarkup) {
+    const QString body = QStringLiteral("Sel & <Fer>");
+    startServer();
+    service.show(morning(body), both);
+    ASSERT_TRUE(waitForShown(1));
+    EXPECT_EQ(server.shown.back().body, body);
+    server.capabilities.append(QStringLiteral("body-markup"));
+    service.show(morning(body), both);
+    ASSERT_TRUE(waitForShown(2));
+    EXPECT_EQ(server.shown.back().body, "Sel &amp; &lt;Fer&gt;");
+    EXPECT_EQ(server.shown.back().summary, morning().title);
+}
+
+TEST_F(FreedesktopNotificationServiceTest, AsksForSilence) {
+    startServer();
+    service.show(morning(), {.banner = true, .sound = false});
+    ASSERT_TRUE(waitForShown(1));
+    EXPECT_EQ(server.shown.back().hints.value("suppress-sound"), true);
+    EXPECT_FALSE(server.shown.back().hints.contains("sound-name"));
+}
+
+TEST_F(FreedesktopNotificationServiceTest, IsReachableOnceAServiceAnswers) {
+    int calls = 0;
+    service.whenReachable([&] { ++calls; });
+    EXPECT_FALSE(test::waitUntil([&] { return calls > 0; }, 100ms));
+    startServer();
+    EXPECT_TRUE(test::waitUntil([&] { return calls == 1; }));
+    stopServer();
+    startServer();
+    settle();
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(FreedesktopNotificationServiceTest, IsReachableWhenAServiceAnswersWithAnError) {
+    server.manner = RecordingServer::Manner::Refuses;
+    startServer();
+    bool reachable = false;
+    service.whenReachable([&] { reachable = true; });
+    EXPECT_TRUE(test::waitUntil([&] { return reachable; }));
+}
+
+TEST_F(FreedesktopNotificationServiceTest, ShowsTheLastMorningWhenAServiceStartsLate) {
+    service.show(morning(QStringLiteral("yesterday")), both);
+    service.show(morning(QStringLiteral("today")), both);
+    EXPECT_FALSE(test::waitUntil([&] { return !server.shown.empty(); }, 100ms));
+    startServer();
+    ASSERT_TRUE(waitForShown(1));
+    settle();
+    EXPECT_EQ(server.shown.size(), 1U);
+    EXPECT_EQ(server.shown.front().body, "today");
+}
+
+TEST_F(FreedesktopNotificationServiceTest, ShowsTheNextMorningAfterTheServiceRestarted) {
+    startServer();
+    service.show(morning(QStringLiteral("one")), both);
+    ASSERT_TRUE(waitForShown(1));
+    stopServer();
+    startServer();
+    settle();
+    EXPECT_EQ(server.shown.size(), 1U); // nothing is repeated
+    service.show(morning(QStringLiteral("two")), both);
+    ASSERT_TRUE(waitForShown(2));
+    EXPECT_EQ(server.shown.back().body, "two");
+}
+
+TEST_F(FreedesktopNotificationServiceTest, DoesNotAskAgainWhatAServiceHasRefused) {
+    server.manner = RecordingServer::Manner::Refuses;
+    startServer();
+    service.show(morning(), both);
+    ASSERT_TRUE(waitForShown(1));
+    server.manner = RecordingServer::Manner::Answers;
+    stopServer();
+    startServer();
+    settle();
+    EXPECT_EQ(server.shown.size(), 1U);
+}
+
+TEST_F(FreedesktopNotificationServiceTest, WaitsForNobody) {
+    server.manner = RecordingServer::Manner::KeepsSilent;
+    startServer();
+    QElapsedTimer time;
+    time.start();
+    service.whenReachable([] {});
+    service.show(morning(), both);
+    EXPECT_LT(time.elapsed(), 1000);
+}
+
+TEST(FreedesktopNotificationServiceWithoutABus, DoesNothingQuietly) {
+    const QDBusConnection none = connectTo(QStringLiteral("unix:path=/nonexistent/bus"), "none");
+    FreedesktopNotificationService service(none);
+    bool reachable = false;
+    service.whenReachable([&] { reachable = true; });
+    service.show(morning(), both);
+    test::runQueued();
+    EXPECT_FALSE(reachable);
+}
+
+#include "FreedesktopNotificationServiceTest.moc"
