@@ -8,7 +8,11 @@
 
 #include <QObject>
 
+#include <memory>
+
 namespace tambrelle {
+
+class PanelWindow;
 
 /// The application: owns the one CalendarManager with its two services, and the two scenes, the item with its
 /// panel and the settings window.
@@ -18,12 +22,17 @@ class TambrelleApp final : public QObject {
 public:
     /// The ports behind `platform` outlive the application.
     explicit TambrelleApp(const Platform& platform);
+    ~TambrelleApp() override;
 
 private:
+    [[nodiscard]] PanelWindow& panelWindow();
+
+    Platform platform;
     SoundManager sound;
     NotificationManager notifications;
     CalendarManager calendarManager;
     MenuBarLabel label;
+    std::unique_ptr<PanelWindow> panel; ///< made when it is first opened
 };
 
 } // namespace tambrelle

@@ -1,0 +1,70 @@
+#include "ui/Ink.h"
+
+#include "core/RawValue.h"
+#include "ui/Palette.h"
+
+#include <array>
+
+namespace tambrelle {
+
+namespace {
+
+/// One row an ink: where the palette keeps it, and its colour in each theme.
+struct InkRow {
+    Ink ink;
+    QPalette::ColorRole role;
+    QColor light;
+    QColor night;
+};
+
+QColor faint(QColor color, double opacity) {
+    color.setAlphaF(static_cast<float>(opacity));
+    return color;
+}
+
+QColor black(double opacity) {
+    return faint(Qt::black, opacity);
+}
+QColor white(double opacity) {
+    return faint(Qt::white, opacity);
+}
+
+const std::array<InkRow, 12>& inks() {
+    static const std::array<InkRow, 12> rows{{
+        {Ink::background, QPalette::Window, Palette::parchment, Palette::mahogany},
+        {Ink::primary, QPalette::WindowText, black(0.85), Palette::nightInk},
+        {Ink::secondary, QPalette::Text, black(0.60), white(0.60)},
+        // A desktop's usual 26 and 10 % give small type 1.9:1 and 1.2:1 on these grounds, which nobody can
+        // read.
+        {Ink::tertiary, QPalette::PlaceholderText, black(0.52), white(0.49)},
+        {Ink::quaternary, QPalette::Mid, black(0.46), white(0.43)},
+        {Ink::divider, QPalette::Midlight, black(0.10), white(0.10)},
+        {Ink::red, QPalette::BrightText, {184, 28, 20}, {255, 122, 108}},
+        {Ink::green, QPalette::LinkVisited, {29, 110, 46}, {104, 214, 126}},
+        {Ink::blue, QPalette::Link, {0, 88, 194}, {122, 184, 255}},
+        {Ink::focus, QPalette::Highlight, {0, 88, 194}, {122, 184, 255}},
+        {Ink::pictureField, QPalette::AlternateBase, Palette::parchment, Palette::agedTan},
+        {Ink::pictureOutline, QPalette::Dark, faint(Palette::brass, 0.5), faint(Palette::brass, 0.5)},
+    }};
+    return rows;
+}
+
+} // namespace
+
+QPalette panelPalette(AppTheme theme) {
+    QPalette palette;
+    for (const InkRow& row : inks())
+        palette.setColor(row.role, theme == AppTheme::sepiaNight ? row.night : row.light);
+    return palette;
+}
+
+QColor color(const QPalette& palette, Ink ink) {
+    for (const InkRow& row : inks()) {
+        if (row.ink == ink)
+            return palette.color(row.role);
+    }
+    precondition(false, "an ink outside its enumeration");
+    return {};
+}
+
+} // namespace tambrelle

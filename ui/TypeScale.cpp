@@ -1,0 +1,52 @@
+#include "ui/TypeScale.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace tambrelle {
+
+namespace {
+
+/// The resolution at which a desktop that scales no text reports its screens.
+constexpr double unscaledDotsPerInch = 96;
+
+QFont designed(TypeStyle::Design design) {
+    switch (design) {
+    case TypeStyle::Design::standard:
+        break;
+    case TypeStyle::Design::serif: {
+        QFont serif = QGuiApplication::font();
+        QStringList families = serif.families();
+        families.prepend(QStringLiteral("serif"));
+        serif.setFamilies(families);
+        serif.setStyleHint(QFont::Serif);
+        return serif;
+    }
+    case TypeStyle::Design::monospaced:
+        return QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    }
+    return QGuiApplication::font();
+}
+
+} // namespace
+
+double textScale() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->logicalDotsPerInchY() / unscaledDotsPerInch : 1;
+}
+
+int scaledByText(int length) {
+    return qRound(length * textScale());
+}
+
+QFont font(const TypeStyle& style) {
+    QFont font = designed(style.design);
+    font.setPixelSize(scaledByText(style.size));
+    font.setWeight(style.weight);
+    font.setItalic(style.italic);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, style.tracking * textScale());
+    return font;
+}
+
+} // namespace tambrelle

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+
+namespace tambrelle {
+
+/// A picture file as large as it fits its place, centred; nothing where the file cannot be read.
+class FittedImage final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit FittedImage(const QString& file, QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString file;
+    QPixmap fitted;
+    QSize fittedFor;
+};
+
+} // namespace tambrelle

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+
+namespace tambrelle {
+
+/// Where a panel opens: by the click, wholly inside the part of the screen that bars leave free. All in the
+/// screen coordinates of one screen.
+struct PanelPlacement {
+    QPoint click;
+    QRect available; ///< what bars leave free of the click's screen
+
+    /// The panel's rectangle: centred under the click, above it in the lower half of the screen, and only as
+    /// tall as the screen has room for.
+    [[nodiscard]] QRect place(QSize panel) const;
+};
+
+} // namespace tambrelle

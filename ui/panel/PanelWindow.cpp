@@ -1,0 +1,91 @@
+#include "ui/panel/PanelWindow.h"
+
+#include "ui/panel/MenuBarView.h"
+#include "ui/panel/PanelPlacement.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace tambrelle {
+
+namespace {
+
+/// What one notch of the wheel moves, in logical pixels.
+constexpr int notch = 48;
+constexpr int wheelUnitsPerNotch = 120;
+
+} // namespace
+
+PanelWindow::PanelWindow(MenuBarView* view)
+    : QWidget(nullptr, Qt::Popup | Qt::FramelessWindowHint), view(view) {
+    // The click that closes the panel is not to reach the item below and open it again.
+    setAttribute(Qt::WA_NoMouseReplay);
+    setWindowTitle(QStringLiteral("Tambrelle"));
+    view->setParent(this);
+    connect(view, &MenuBarView::heightChanged, this, &PanelWindow::fit);
+}
+
+void PanelWindow::toggle(QPoint click) {
+    if (isVisible())
+        close();
+    else
+        open(click);
+}
+
+void PanelWindow::open(QPoint click) {
+    lastClick = click;
+    view->refresh();
+    fit();
+    scrollTo(0);
+    show();
+    view->setFocus(Qt::PopupFocusReason);
+}
+
+void PanelWindow::fit() {
+    const QScreen* there = QGuiApplication::screenAt(lastClick);
+    if (!there)
+        there = QGuiApplication::primaryScreen();
+    const PanelPlacement placement{.click = lastClick, .available = there->availableGeometry()};
+    const QRect place = placement.place(view->size());
+    setGeometry(place);
+    scrollTo(view->y());
+}
+
+void PanelWindow::scrollTo(int top) {
+    view->move(0, std::clamp(top, std::min(0, height() - view->height()), 0));
+}
+
+void PanelWindow::wheelEvent(QWheelEvent* event) {
+    scrollTo(view->y() + event->angleDelta().y() * notch / wheelUnitsPerNotch);
+}
+
+void PanelWindow::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Up:
+        scrollTo(view->y() + notch);
+        break;
+    case Qt::Key_Down:
+        scrollTo(view->y() - notch);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+bool PanelWindow::focusNextPrevChild(bool next) {
+    const bool moved = QWidget::focusNextPrevChild(next);
+    if (const QWidget* control = focusWidget(); control && control != view) {
+        const QRect place(control->mapTo(this, QPoint(0, 0)), control->size());
+        if (place.top() < 0)
+            scrollTo(view->y() - place.top() + notch);
+        else if (place.bottom() >= height())
+            scrollTo(view->y() - (place.bottom() - height()) - notch);
+    }
+    return moved;
+}
+
+} // namespace tambrelle

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QPoint>
+#include <QWidget>
+
+namespace tambrelle {
+
+class MenuBarView;
+
+/// The popover that holds the panel. On a screen too low for the whole panel it scrolls.
+class PanelWindow final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Takes the view.
+    explicit PanelWindow(MenuBarView* view);
+
+    /// Opens at the click, or closes when it is open.
+    void toggle(QPoint click);
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    void open(QPoint click);
+    void fit();
+    void scrollTo(int top);
+
+    MenuBarView* view;
+    QPoint lastClick;
+};
+
+} // namespace tambrelle

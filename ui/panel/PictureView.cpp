@@ -1,0 +1,79 @@
+#include "ui/panel/PictureView.h"
+
+#include "ui/Ink.h"
+#include "ui/TextLabel.h"
+#include "ui/panel/PanelMetrics.h"
+
+#include <QImageReader>
+#include <QPainter>
+#include <QPainterPath>
+#include <QVBoxLayout>
+
+namespace tambrelle {
+
+QImage composedPicture(const QImage& plate, const PictureFrame& frame) {
+    const QSize pixels = (QSizeF(frame.size) * frame.devicePixelRatio).toSize();
+    QImage image(pixels, QImage::Format_RGB32);
+    image.fill(frame.field);
+    const QImage fitted = plate.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    painter.drawImage((pixels.width() - fitted.width()) / 2, (pixels.height() - fitted.height()) / 2, fitted);
+    painter.end();
+    image.setDevicePixelRatio(frame.devicePixelRatio);
+    return image;
+}
+
+PictureView::PictureView(QWidget* parent)
+    : QWidget(parent), emojiLabel(new TextLabel(TypeScale::pictureEmoji, Ink::primary)) {
+    setFixedHeight(PanelMetrics::pictureHeight);
+    auto* center = new QVBoxLayout(this);
+    center->setContentsMargins({});
+    center->addWidget(emojiLabel, 0, Qt::AlignCenter);
+}
+
+void PictureView::present(const std::optional<QString>& file, const QString& emoji) {
+    emojiLabel->setText(emoji);
+    const QString wanted = file && QImageReader(*file).canRead() ? *file : QString();
+    emojiLabel->setVisible(wanted.isEmpty());
+    if (wanted == shownFile)
+        return;
+    shownFile = wanted;
+    composed = {};
+    update();
+}
+
+void PictureView::resizeEvent(QResizeEvent*) {
+    composed = {};
+}
+
+const QPixmap& PictureView::picture() {
+    const QColor field = color(palette(), Ink::pictureField);
+    if (composed.isNull() || composedField != field || composed.devicePixelRatio() != devicePixelRatioF()) {
+        const QImage plate(shownFile);
+        composed = QPixmap::fromImage(composedPicture(
+            plate, {.size = size(), .devicePixelRatio = devicePixelRatioF(), .field = field}));
+        composedField = field;
+    }
+    return composed;
+}
+
+void PictureView::paintEvent(QPaintEvent*) {
+    constexpr double radius = PanelMetrics::pictureCornerRadius;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!shownFile.isEmpty()) {
+        // A brush's edge is smooth where a clip's is not.
+        painter.setPen(Qt::NoPen);
+        QBrush brush(picture());
+        painter.setBrush(brush);
+        painter.drawRoundedRect(rect(), radius, radius);
+        painter.setBrush(Qt::NoBrush);
+    }
+    constexpr double inset = PanelMetrics::pictureOutlineWidth / 2.0;
+    painter.setPen(QPen(color(palette(), Ink::pictureOutline), PanelMetrics::pictureOutlineWidth));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), radius - inset,
+                            radius - inset);
+}
+
+} // namespace tambrelle
