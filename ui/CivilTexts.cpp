@@ -34,7 +34,8 @@ QString civilTimeText(Instant instant, const QLocale& locale) {
     if (!components)
         return {};
     const QTime time(static_cast<int>(components->hour), static_cast<int>(components->minute));
-    return locale.toString(time, QLocale::ShortFormat);
+    // The C locale's short time alone has seconds.
+    return locale.toString(time, locale.timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss")));
 }
 
 } // namespace tambrelle

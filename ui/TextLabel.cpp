@@ -41,7 +41,7 @@ TextLabel::TextLabel(const TypeStyle& style, Ink ink, TextFit fit, QWidget* pare
     : QWidget(parent), typeStyle(style), textInk(ink), fit(fit), plainFont(tambrelle::font(style)) {
     installTextAccessibility();
     const bool severalLines = fit.overflow == TextFit::Overflow::wrap && fit.lines != 1;
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, severalLines ? QSizePolicy::Preferred : QSizePolicy::Fixed);
     policy.setHeightForWidth(severalLines);
     setSizePolicy(policy);
 }
@@ -74,6 +74,8 @@ QSize TextLabel::sizeHint() const {
 
 QSize TextLabel::minimumSizeHint() const {
     const QSize whole = sizeHint();
+    if (fit.overflow == TextFit::Overflow::whole)
+        return whole;
     if (fit.overflow == TextFit::Overflow::shrink)
         return {static_cast<int>(std::ceil(whole.width() * smallestShrinkage)), whole.height()};
     if (fit.lines == 1)

@@ -11,10 +11,20 @@ namespace tambrelle {
 
 /// What becomes of a text that is wider than its place.
 struct TextFit {
-    enum class Overflow : std::uint8_t { wrap, shrink };
+    enum class Overflow : std::uint8_t {
+        whole, ///< it is never wider: the place has to be as wide as the text
+        wrap,
+        shrink,
+    };
 
-    Overflow overflow = Overflow::wrap;
-    int lines = 0; ///< the most lines, the last one elided; 0 for as many as it takes
+    Overflow overflow = Overflow::whole;
+    int lines = 0; ///< the most lines of a wrapped text, the last one elided; 0 for as many as it takes
+
+    [[nodiscard]] static constexpr TextFit wrapped(int lines = 0) {
+        return {.overflow = Overflow::wrap, .lines = lines};
+    }
+    [[nodiscard]] static constexpr TextFit elided() { return wrapped(1); }
+    [[nodiscard]] static constexpr TextFit shrunk() { return {.overflow = Overflow::shrink}; }
 };
 
 /// A text of the panel, set in a style and an ink. Assistive technology reads the whole text, also what is

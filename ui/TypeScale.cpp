@@ -16,15 +16,15 @@ QFont designed(TypeStyle::Design design) {
     case TypeStyle::Design::standard:
         break;
     case TypeStyle::Design::serif: {
-        QFont serif = QGuiApplication::font();
-        QStringList families = serif.families();
-        families.prepend(QStringLiteral("serif"));
-        serif.setFamilies(families);
+        QFont serif(QStringLiteral("serif"));
         serif.setStyleHint(QFont::Serif);
         return serif;
     }
     case TypeStyle::Design::monospaced:
         return QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    case TypeStyle::Design::emoji:
+        // Named first, it also gives the line its height.
+        return QFont(QStringLiteral("emoji"));
     }
     return QGuiApplication::font();
 }

@@ -8,7 +8,7 @@ namespace tambrelle {
 
 /// How a piece of text is set, in logical pixels at a text scale of 100 %.
 struct TypeStyle {
-    enum class Design : std::uint8_t { standard, serif, monospaced };
+    enum class Design : std::uint8_t { standard, serif, monospaced, emoji };
 
     int size = 13;
     QFont::Weight weight = QFont::Normal;
@@ -26,7 +26,7 @@ struct TypeStyle {
 /// A length that grows with the text, in whole logical pixels.
 [[nodiscard]] int scaledByText(int length);
 
-/// The desktop's own font, or fontconfig's serif and monospaced ones, in the style.
+/// The desktop's own font, or fontconfig's serif, monospaced or emoji one, in the style.
 [[nodiscard]] QFont font(const TypeStyle& style);
 
 /// Every style of the panel.
@@ -48,15 +48,15 @@ inline constexpr TypeStyle backToToday{.size = 11, .weight = QFont::Medium};
 
 inline constexpr TypeStyle monthName{.size = 20, .weight = QFont::Bold, .tracking = 2};
 inline constexpr TypeStyle monthMeaning{.size = 12, .design = Design::serif, .italic = true};
-inline constexpr TypeStyle monthEmoji{.size = 40};
+inline constexpr TypeStyle monthEmoji{.size = 40, .design = Design::emoji};
 inline constexpr TypeStyle fullDate{.size = 16, .weight = QFont::DemiBold};
 
 inline constexpr TypeStyle decimalTime{.size = 28, .weight = QFont::Bold, .design = Design::monospaced};
 inline constexpr TypeStyle standardTime{.size = 18, .design = Design::monospaced};
 
-inline constexpr TypeStyle pictureEmoji{.size = 80};
+inline constexpr TypeStyle pictureEmoji{.size = 80, .design = Design::emoji};
 inline constexpr TypeStyle sectionHeading{.size = 10, .weight = QFont::DemiBold, .tracking = 1};
-inline constexpr TypeStyle eventEmoji{.size = 16};
+inline constexpr TypeStyle eventEmoji{.size = 16, .design = Design::emoji};
 inline constexpr TypeStyle dayCount{.size = 18, .weight = QFont::Bold};
 inline constexpr TypeStyle slogan{.size = 10, .design = Design::serif, .italic = true};
 

@@ -13,8 +13,8 @@ DailyItemSection::DailyItemSection(const ResourceBundle& resources, QWidget* par
     : QWidget(parent),
       resources(resources),
       picture(new PictureView),
-      frenchName(new TextLabel(TypeScale::secondTitle, Ink::primary)),
-      caption(new TextLabel(TypeScale::caption, Ink::secondary)) {
+      frenchName(new TextLabel(TypeScale::secondTitle, Ink::primary, TextFit::wrapped())),
+      caption(new TextLabel(TypeScale::caption, Ink::secondary, TextFit::wrapped())) {
     for (TextLabel* label : {frenchName, caption})
         label->setAlignment(Qt::AlignHCenter);
     auto* column = new QVBoxLayout(this);

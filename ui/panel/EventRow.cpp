@@ -12,15 +12,14 @@ namespace tambrelle {
 EventRow::EventRow(QWidget* parent)
     : QWidget(parent),
       emoji(new TextLabel(TypeScale::eventEmoji, Ink::primary)),
-      title(new TextLabel(TypeScale::subheadlineMedium, Ink::primary)),
+      title(new TextLabel(TypeScale::subheadlineMedium, Ink::primary, TextFit::wrapped())),
       year(new TextLabel(TypeScale::smallCaption, Ink::tertiary)),
-      description(
-          new TextLabel(TypeScale::caption, Ink::secondary, {.lines = PanelMetrics::eventDescriptionLines})) {
+      description(new TextLabel(TypeScale::caption, Ink::secondary,
+                                TextFit::wrapped(PanelMetrics::eventDescriptionLines))) {
     auto* heading = new QHBoxLayout;
     heading->setSpacing(Spacing::close);
     heading->addWidget(title);
-    heading->addWidget(year);
-    heading->addStretch();
+    heading->addWidget(year, 1);
     auto* words = new QVBoxLayout;
     words->setSpacing(Spacing::tight);
     words->addLayout(heading);

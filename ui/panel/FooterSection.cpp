@@ -13,7 +13,7 @@ namespace tambrelle {
 
 FooterSection::FooterSection(QWidget* parent)
     : QWidget(parent),
-      slogan(new TextLabel(TypeScale::slogan, Ink::tertiary, {.lines = 1})),
+      slogan(new TextLabel(TypeScale::slogan, Ink::tertiary, TextFit::elided())),
       chime(new SymbolButton(QStringLiteral("speaker.slash"), TypeScale::caption, Ink::secondary)),
       copy(new CopyButton) {
     chime->setAccessibleName(QStringLiteral("Toggle chime"));

@@ -11,10 +11,10 @@ namespace tambrelle {
 
 HeaderSection::HeaderSection(QWidget* parent)
     : QWidget(parent),
-      monthName(new TextLabel(TypeScale::monthName, Ink::primary, {.overflow = TextFit::Overflow::shrink})),
-      monthMeaning(new TextLabel(TypeScale::monthMeaning, Ink::secondary)),
+      monthName(new TextLabel(TypeScale::monthName, Ink::primary, TextFit::shrunk())),
+      monthMeaning(new TextLabel(TypeScale::monthMeaning, Ink::secondary, TextFit::wrapped())),
       monthEmoji(new TextLabel(TypeScale::monthEmoji, Ink::primary)),
-      formattedDate(new TextLabel(TypeScale::fullDate, Ink::primary)),
+      formattedDate(new TextLabel(TypeScale::fullDate, Ink::primary, TextFit::wrapped())),
       dayName(new TextLabel(TypeScale::body, Ink::primary)),
       placeInDecade(new TextLabel(TypeScale::subheadline, Ink::tertiary)),
       civilDate(new TextLabel(TypeScale::caption, Ink::tertiary)) {
@@ -32,8 +32,7 @@ HeaderSection::HeaderSection(QWidget* parent)
     decadeRow->setSpacing(Spacing::close);
     decadeRow->addWidget(dayName, 0, Qt::AlignVCenter);
     decadeRow->addWidget(bullet, 0, Qt::AlignVCenter);
-    decadeRow->addWidget(placeInDecade, 0, Qt::AlignVCenter);
-    decadeRow->addStretch();
+    decadeRow->addWidget(placeInDecade, 1, Qt::AlignVCenter);
 
     auto* month = new QVBoxLayout;
     month->setSpacing(Spacing::tight);

@@ -25,6 +25,24 @@
 
 namespace tambrelle {
 
+namespace {
+
+bool differOnlyInTime(const PanelSnapshot& before, PanelSnapshot after) {
+    after.time = before.time;
+    return after == before;
+}
+
+/// Lays out from the innermost widgets outwards, so that a height asked for now is that of the content shown
+/// now. Left to the event loop, it would come later.
+void layOut(const QWidget& widget) {
+    for (const QWidget* child : widget.findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        layOut(*child);
+    if (QLayout* layout = widget.layout())
+        layout->activate();
+}
+
+} // namespace
+
 MenuBarView::MenuBarView(const PanelServices& services, QWidget* parent)
     : QWidget(parent),
       services(services),
@@ -70,15 +88,13 @@ void MenuBarView::connectControls() {
 }
 
 void MenuBarView::refresh() {
-    PanelSnapshot snapshot =
-        panelSnapshot(services.manager, services.sound, {.now = services.clock.now(), .locale = QLocale()});
-    if (snapshot == shown)
-        return;
-    present(snapshot);
-    shown = std::move(snapshot);
+    present(
+        panelSnapshot(services.manager, services.sound, {.now = services.clock.now(), .locale = QLocale()}));
 }
 
 void MenuBarView::present(const PanelSnapshot& snapshot) {
+    if (snapshot == shown)
+        return;
     if (!shown || shown->theme != snapshot.theme)
         setPalette(panelPalette(snapshot.theme));
     navigation->present(snapshot.onToday);
@@ -95,7 +111,10 @@ void MenuBarView::present(const PanelSnapshot& snapshot) {
     afterOnThisDay->setVisible(hasEvents);
     guillotine->present(snapshot.guillotine);
     footer->present(snapshot.footer);
-    fitHeight();
+    const bool sameSize = shown && differOnlyInTime(*shown, snapshot);
+    shown = snapshot;
+    if (!sameSize)
+        fitHeight();
 }
 
 QSize MenuBarView::sizeHint() const {
@@ -104,6 +123,7 @@ QSize MenuBarView::sizeHint() const {
 }
 
 void MenuBarView::fitHeight() {
+    layOut(*this);
     const QSize wanted = sizeHint();
     if (wanted == size())
         return;

@@ -42,6 +42,9 @@ public:
     /// visible.
     void refresh();
 
+    /// Shows this content; what equals the content on show is not touched.
+    void present(const PanelSnapshot& snapshot);
+
     [[nodiscard]] QSize sizeHint() const override;
 
 signals:
@@ -57,7 +60,6 @@ protected:
 
 private:
     void connectControls();
-    void present(const PanelSnapshot& snapshot);
     void fitHeight();
     void copyToClipboard();
     void chime(bool test);
