@@ -1,0 +1,164 @@
+#include "plates/engraver/Composition.h"
+
+#include "plates/engraver/Noise.h"
+
+namespace tambrelle::engraver {
+
+namespace {
+
+constexpr int scale = Plate::scale;
+
+// What is drawn, as pixel bounds; anything this faint would be lost on paper.
+Plate::Window inkedWindow(const Plate& plate) {
+    const Layer& wash = plate.washLayer();
+    const Layer& ink = plate.inkLayer();
+    int x0 = wash.width(), y0 = wash.height(), x1 = -1, y1 = -1;
+    for (int y = 0; y < wash.height(); ++y)
+        for (int x = 0; x < wash.width(); ++x) {
+            const Pixel& w = wash(x, y);
+            const float darkest = std::min({w.r, w.g, w.b}) + 1 - w.a;
+            if (ink(x, y).a < 0.15F && darkest > 0.93F)
+                continue;
+            x0 = std::min(x0, x);
+            x1 = std::max(x1, x);
+            y0 = std::min(y0, y);
+            y1 = std::max(y1, y);
+        }
+    if (x1 < 0)
+        return {};
+    return {x0, y0, x1 - x0 + 1, y1 - y0 + 1};
+}
+
+struct Painting {
+    Field channel[3];
+};
+
+// Wash over paper, blurred a little and granulated, under the ink.
+Painting paint(const Plate& plate, const Plate::Window& w, double granulation) {
+    Painting picture;
+    const Layer& wash = plate.washLayer();
+    const Layer& ink = plate.inkLayer();
+    for (Field& f : picture.channel)
+        f = Field(w.width, w.height);
+    for (int y = 0; y < w.height; ++y)
+        for (int x = 0; x < w.width; ++x) {
+            const Pixel& p = wash(x + w.x, y + w.y);
+            picture.channel[0](x, y) = p.r + 1 - p.a;
+            picture.channel[1](x, y) = p.g + 1 - p.a;
+            picture.channel[2](x, y) = p.b + 1 - p.a;
+        }
+    for (Field& f : picture.channel)
+        blur(f, 0.25 * scale);
+    // Pigment gathers in the paper's hollows: one broad and one fine unevenness, sampled coarsely.
+    constexpr int step = 4;
+    const Noise broad(7), fine(11);
+    Field grain(w.width / step + 2, w.height / step + 2);
+    for (int y = 0; y < grain.height(); ++y)
+        for (int x = 0; x < grain.width(); ++x) {
+            const double ux = static_cast<double>(x * step) / scale,
+                         uy = static_cast<double>(y * step) / scale;
+            grain(x, y) = static_cast<float>(
+                granulation *
+                std::clamp(0.6 * broad(ux / 11, uy / 11) + 0.35 * fine(ux / 2.8, uy / 2.8), -2.0, 2.0));
+        }
+    for (int y = 0; y < w.height; ++y)
+        for (int x = 0; x < w.width; ++x) {
+            const float fx = static_cast<float>(x % step) / step, fy = static_cast<float>(y % step) / step;
+            const int gx = x / step, gy = y / step;
+            const float top = grain(gx, gy) + (grain(gx + 1, gy) - grain(gx, gy)) * fx;
+            const float bottom = grain(gx, gy + 1) + (grain(gx + 1, gy + 1) - grain(gx, gy + 1)) * fx;
+            const float n = 1 + top + (bottom - top) * fy;
+            const Pixel& k = ink(x + w.x, y + w.y);
+            const float inks[3] = {k.r, k.g, k.b};
+            for (int c = 0; c < 3; ++c) {
+                float& v = picture.channel[c](x, y);
+                const float washed = std::clamp(1 - (1 - v) * n, 0.0F, 1.0F);
+                // Ink lets a quarter of the wash through; a stronger wash makes a darker line.
+                v = std::clamp(washed * (1 - k.a) + washed * inks[c] * 0.25F + inks[c] * 0.75F, 0.0F, 1.0F);
+            }
+        }
+    return picture;
+}
+
+// One axis of the reduction: which source pixels make up each target pixel.
+struct Tap {
+    int first = 0;
+    std::vector<float> weights;
+};
+
+// Lanczos-2, widened to the step: crisp lines without the stair of a box.
+std::vector<Tap> taps(int targets, double step, double origin) {
+    std::vector<Tap> out;
+    const double reach = 2 * std::max(step, 1.0);
+    for (int i = 0; i < targets; ++i) {
+        const double centre = origin + (i + 0.5) * step;
+        Tap tap;
+        tap.first = static_cast<int>(std::ceil(centre - reach - 0.5));
+        const int last = static_cast<int>(std::floor(centre + reach - 0.5));
+        double sum = 0;
+        std::vector<double> w;
+        for (int s = tap.first; s <= last; ++s) {
+            const double x = (s + 0.5 - centre) / std::max(step, 1.0) * maths::pi;
+            const double v = std::fabs(x) < 1e-6 ? 1 : maths::sin(x) / x * maths::sin(x / 2) / (x / 2);
+            w.push_back(v);
+            sum += v;
+        }
+        for (const double v : w)
+            tap.weights.push_back(static_cast<float>(v / sum));
+        out.push_back(std::move(tap));
+    }
+    return out;
+}
+
+} // namespace
+
+Picture compose(const Plate& plate, const Composition& how) {
+    Picture picture;
+    picture.width = how.sheetWidth * how.pixels;
+    picture.height = how.sheetHeight * how.pixels;
+    picture.rgb.assign(static_cast<std::size_t>(picture.width * picture.height) * 3, 255);
+    const Plate::Window w = inkedWindow(plate);
+    if (w.width == 0)
+        return picture;
+    const double k = std::min({how.largest, (how.sheetWidth - 2 * how.marginX) * scale / w.width,
+                               (how.sheetHeight - 2 * how.marginY) * scale / w.height});
+    const double step = scale / (k * how.pixels); // source pixels a target pixel
+    const Painting painting = paint(plate, w, how.granulation);
+    const double originX = w.width / 2.0 - picture.width * step / 2;
+    const double originY = w.height / 2.0 - picture.height * step / 2;
+    const std::vector<Tap> across = taps(picture.width, step, originX);
+    const std::vector<Tap> down = taps(picture.height, step, originY);
+    for (int c = 0; c < 3; ++c) {
+        const Field& source = painting.channel[c];
+        Field narrow(picture.width, w.height);
+        for (int y = 0; y < w.height; ++y)
+            for (int x = 0; x < picture.width; ++x) {
+                const Tap& tap = across[static_cast<std::size_t>(x)];
+                float sum = 0;
+                int s = tap.first;
+                for (const float weight : tap.weights) {
+                    sum += weight * (s >= 0 && s < w.width ? source(s, y) : 1.0F);
+                    ++s;
+                }
+                narrow(x, y) = sum;
+            }
+        for (int y = 0; y < picture.height; ++y) {
+            const Tap& tap = down[static_cast<std::size_t>(y)];
+            for (int x = 0; x < picture.width; ++x) {
+                float sum = 0;
+                int s = tap.first;
+                for (const float weight : tap.weights) {
+                    sum += weight * (s >= 0 && s < w.height ? narrow(x, s) : 1.0F);
+                    ++s;
+                }
+                const float level = std::clamp(sum, 0.0F, 1.0F) * 255.0F + 0.5F;
+                picture
+                    .rgb[static_cast<std::size_t>(y * picture.width + x) * 3 + static_cast<std::size_t>(c)] =
+                    static_cast<unsigned char>(level);
+            }
+        }
+    }
+    return picture;
+}
+
+} // namespace tambrelle::engraver

@@ -1,0 +1,49 @@
+#include "plates/engraver/Noise.h"
+
+#include "plates/engraver/Maths.h"
+
+namespace tambrelle::engraver {
+
+namespace {
+
+// A hash of a lattice point, spread over about -1.7 ... 1.7 (unit variance).
+double latticeValue(std::int64_t x, std::int64_t y, std::uint64_t seed) {
+    std::uint64_t z = seed + static_cast<std::uint64_t>(x) * 0x9E3779B97F4A7C15ULL +
+                      static_cast<std::uint64_t>(y) * 0xC2B2AE3D27D4EB4FULL;
+    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ULL;
+    z = (z ^ (z >> 27)) * 0x94D049BB133111EBULL;
+    z ^= z >> 31;
+    return (static_cast<double>(z >> 11) * 0x1p-53 - 0.5) * 3.46;
+}
+
+double cubic(double a, double b, double c, double d, double t) {
+    return b + 0.5 * t * (c - a + t * (2 * a - 5 * b + 4 * c - d + t * (3 * (b - c) + d - a)));
+}
+
+} // namespace
+
+double Noise::octave(double x, double y, std::uint64_t salt) const {
+    const double fx = std::floor(x), fy = std::floor(y);
+    const auto ix = static_cast<std::int64_t>(fx), iy = static_cast<std::int64_t>(fy);
+    double rows[4];
+    for (int j = 0; j < 4; ++j) {
+        const std::int64_t row = iy + j - 1;
+        const std::uint64_t s = seed_ + salt;
+        rows[j] = cubic(latticeValue(ix - 1, row, s), latticeValue(ix, row, s), latticeValue(ix + 1, row, s),
+                        latticeValue(ix + 2, row, s), x - fx);
+    }
+    return cubic(rows[0], rows[1], rows[2], rows[3], y - fy);
+}
+
+double Noise::operator()(double x, double y) const {
+    double sum = 0, height = 1;
+    for (int k = 0; k < octaves_; ++k) {
+        sum += height * octave(x, y, static_cast<std::uint64_t>(k) * 7919);
+        x = x * 2 + 17.3;
+        y = y * 2 + 5.7;
+        height *= gain_;
+    }
+    return sum;
+}
+
+} // namespace tambrelle::engraver
