@@ -331,7 +331,7 @@ private:
     Field inkOf(const Field& hit) {
         const int w = window_.width, h = window_.height;
         const int reach =
-            std::max(1, static_cast<int>(std::floor(style_.contour * 0.5 * Plate::scale + 0.5)));
+            std::max(2, static_cast<int>(std::floor(style_.contour * 0.5 * Plate::scale + 0.5)));
         Field z(w, h, -300.0F), id(w, h, -1.0F);
         for (int y = 0; y < h; ++y)
             for (int x = 0; x < w; ++x)
