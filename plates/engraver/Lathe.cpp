@@ -84,7 +84,9 @@ Path envelope(const LatheSurface& s, const LatheForm& form) {
     std::vector<double> low(stations, 1e9), high(stations, -1e9);
     const double span = std::max(last - first, 1e-6);
     // Stations stand closer towards the ends, where the outline turns.
-    const auto stationOf = [](double t) { return stations * (0.5 - maths::atan2(1 - 2 * t, std::sqrt(std::max(4 * t * (1 - t), 0.0))) / pi); };
+    const auto stationOf = [](double t) {
+        return stations * (0.5 - maths::atan2(1 - 2 * t, std::sqrt(std::max(4 * t * (1 - t), 0.0))) / pi);
+    };
     const auto placeOf = [](double k) { return 0.5 - 0.5 * maths::cos(pi * k / stations); };
     for (const Point p : cloud) {
         const auto k = std::min(static_cast<std::size_t>(stationOf((p.x - first) / span)), stations - 1);
@@ -95,7 +97,9 @@ Path envelope(const LatheSurface& s, const LatheForm& form) {
     for (std::size_t k = 0; k < stations; ++k) {
         if (low[k] > high[k])
             continue;
-        const double x = first + span * placeOf(k == 0 ? 0.0 : k + 1 == stations ? stations : static_cast<double>(k) + 0.5);
+        const double x = first + span * placeOf(k == 0              ? 0.0
+                                                : k + 1 == stations ? stations
+                                                                    : static_cast<double>(k) + 0.5);
         left.push_back(s.base + ax * x + sd * low[k]);
         right.push_back(s.base + ax * x + sd * high[k]);
     }

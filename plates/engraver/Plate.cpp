@@ -167,7 +167,7 @@ void Plate::ink(const Path& outline, Colour colour, double alpha) {
     fill(outline, [this, colour, alpha](int x, int y, float cover) {
         const float a = static_cast<float>(alpha) * cover;
         if (under_)
-            ink_(x, y).underlay(colour, a);
+            ink_(x, y).underlay(colour, a * (1 - wash_(x, y).a));
         else
             ink_(x, y).cover(colour, a);
     });
@@ -384,7 +384,7 @@ void Plate::layInk(const Window& w, const Field& alpha, Colour colour) {
             if (a <= 0.004F)
                 continue;
             if (under_)
-                ink_(x + w.x, y + w.y).underlay(colour, a);
+                ink_(x + w.x, y + w.y).underlay(colour, a * (1 - wash_(x + w.x, y + w.y).a));
             else
                 ink_(x + w.x, y + w.y).cover(colour, a);
         }

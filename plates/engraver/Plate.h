@@ -92,7 +92,7 @@ public:
     void ink(const Path& outline, Colour colour = sepia, double alpha = 1);
     void stroke(const Path& path, const Pen& pen = {});
     /// A stroke whose width is given at every point.
-    void stroke(const Path& path, const std::vector<double>& widths, const Pen& pen = {});
+    void stroke(const Path& path, const std::vector<double>& widths, const Pen& pen);
     void contour(const Path& outline, const Contour& how = {});
     void contour(const Path& outline, double width) {
         Contour how;
@@ -116,7 +116,7 @@ public:
     private:
         Plate& plate_;
     };
-    /// While it lives, ink goes beneath the ink laid so far.
+    /// While it lives, ink goes beneath all ink and wash laid so far.
     class Under {
     public:
         explicit Under(Plate& plate) : plate_(plate) { plate_.under_ = true; }

@@ -25,8 +25,8 @@ void eyeOf(Plate& plate, Point centre, double radius, double squash, const Palet
     plate.flat(rim, palette, 0.42);
     for (int k = 0; k < dots; ++k) {
         const double q = std::sqrt((k + 0.5) / dots);
-        plate.dot(centre + flattened(k * goldenAngle, radius * 0.9 * q, squash), 0.3 + 0.1 * radius / 5, sepia,
-                  0.5 + 0.5 * q);
+        plate.dot(centre + flattened(k * goldenAngle, radius * 0.9 * q, squash), 0.3 + 0.1 * radius / 5,
+                  sepia, 0.5 + 0.5 * q);
     }
     plate.contour(rim, 0.45);
 }
@@ -44,9 +44,10 @@ void flower(Plate& plate, Point at, double degrees, const FlowerForm& f, double 
             const double a = roll + 360.0 * (k + 0.5) / f.sepals, r = f.length * s * 0.75;
             const Point d = direction(a);
             const double lean = maths::radians(std::min(f.baseAngle + 25, 100.0));
-            leaflet(plate, at,
-                    frame.onPlate({d.x * r * maths::sin(lean), d.y * r * maths::sin(lean), r * maths::cos(lean)}),
-                    {.width = f.length * s * 0.11, .hatched = false});
+            leaflet(
+                plate, at,
+                frame.onPlate({d.x * r * maths::sin(lean), d.y * r * maths::sin(lean), r * maths::cos(lean)}),
+                {.width = f.length * s * 0.11, .hatched = false});
         }
     }
     if (f.spur > 0)
@@ -103,7 +104,8 @@ void flower(Plate& plate, Point at, double degrees, const FlowerForm& f, double 
         const Point d = direction(k * goldenAngle);
         const double reach = f.length * s * f.stamenLength;
         const Point end = frame.onPlate({d.x * reach * 0.66 * q, d.y * reach * 0.66 * q, reach * 1.0});
-        plate.stroke({middle, lerp(middle, end, 0.5), end}, {.width = 0.4, .swell = 0, .fade = 0, .wobble = 0});
+        plate.stroke({middle, lerp(middle, end, 0.5), end},
+                     {.width = 0.4, .swell = 0, .fade = 0, .wobble = 0});
         const double r = 0.95 * std::sqrt(s) * std::clamp(f.length / 18, 0.8, 1.6);
         const Path anther = ellipse(end, r, r * 0.8, 10);
         plate.knockOut(anther, {.halo = 0, .shade = 0});
@@ -122,14 +124,15 @@ void bell(Plate& plate, Point at, double degrees, const BellForm& f, double s) {
     sheets.engrave(plate, {.palettes = {f.palette}, .spacing = 1.5, .contour = 0.6, .highlight = 0.06});
     for (int k = 0; k < f.sepals; ++k) {
         const double a = degrees + (k - (f.sepals - 1) / 2.0) * 70.0 / std::max(f.sepals - 1, 1);
-        leaflet(plate, at - direction(degrees) * 1.0, polar(at, a, f.length * s * 0.38), {.width = 1.4 * s, .hatched = false});
+        leaflet(plate, at - direction(degrees) * 1.0, polar(at, a, f.length * s * 0.38),
+                {.width = 1.4 * s, .hatched = false});
     }
 }
 
 namespace {
 // A flat petal for small flowers: fans its lines from the base.
-void smallPetal(Plate& plate, Point base, Point tip, double width, const Palette& palette, const Profile& shape,
-                double bend, double tone) {
+void smallPetal(Plate& plate, Point base, Point tip, double width, const Palette& palette,
+                const Profile& shape, double bend, double tone) {
     const Point side = rightOf(unit(tip - base));
     constexpr std::size_t n = 20;
     const Path s = resample(spline({base, lerp(base, tip, 0.5) + side * bend, tip}), n);
@@ -147,8 +150,9 @@ void smallPetal(Plate& plate, Point base, Point tip, double width, const Palette
         for (std::size_t j = 0; j < n; ++j) {
             const double v = fraction(i, 9), u = fraction(j, n);
             patch.point(i, j) = lerp(left[j], right[j], v);
-            patch.tone(i, j) = maths::clamp01(0.55 - 0.40 * smooth(0, 0.75, u) + tone +
-                                              0.16 * (v * 2 - 1) * (dot(normal[n / 2], shadeSide) > 0 ? 1 : -1));
+            patch.tone(i, j) =
+                maths::clamp01(0.55 - 0.40 * smooth(0, 0.75, u) + tone +
+                               0.16 * (v * 2 - 1) * (dot(normal[n / 2], shadeSide) > 0 ? 1 : -1));
         }
     plate.wash(patch, palette, 0.78, 0.06, 0.08);
     plate.hatch(patch, {.spacing = 1.4, .coverage = 0.42, .from = 0.2, .widest = 0.6});
@@ -173,10 +177,10 @@ void lipFlower(Plate& plate, Point c, double degrees, double size, const Palette
     const Point mouth = polar(c, degrees, size * 0.5);
     tube(plate, {c, mouth}, {size * 0.12, size * 0.21},
          {.palette = palette, .lines = Lines::along, .spacing = 1.5, .contour = 0.5, .shade = 0.2});
-    smallPetal(plate, mouth, polar(mouth, degrees - side * 25, size * 0.6), size * 0.22, palette, shapes::elliptic,
-               -side * size * 0.16, 0.1);
-    smallPetal(plate, mouth, polar(mouth, degrees + side * 62, size * 0.56), size * 0.28, palette, shapes::obovate,
-               0, 0);
+    smallPetal(plate, mouth, polar(mouth, degrees - side * 25, size * 0.6), size * 0.22, palette,
+               shapes::elliptic, -side * size * 0.16, 0.1);
+    smallPetal(plate, mouth, polar(mouth, degrees + side * 62, size * 0.56), size * 0.28, palette,
+               shapes::obovate, 0, 0);
     leaflet(plate, polar(c, degrees + 180, size * 0.05), polar(c, degrees, size * 0.36),
             {.width = size * 0.17, .shape = shapes::elliptic, .hatched = false});
 }
@@ -207,8 +211,10 @@ void compositeHead(Plate& plate, Point at, double degrees, const CompositeForm& 
         const Point axis = direction(degrees), side = rightOf(axis);
         for (int k = 0; k < 7; ++k) {
             const double x = (k - 3) / 3.0;
-            const Point base = at - axis * (r * 0.9 * maths::cos(maths::radians(f.tilt))) + side * (r * 0.6 * x);
-            leaflet(plate, base, base + axis * (r * 1.25) + side * (r * 0.55 * x), {.width = r * 0.24, .hatched = false});
+            const Point base =
+                at - axis * (r * 0.9 * maths::cos(maths::radians(f.tilt))) + side * (r * 0.6 * x);
+            leaflet(plate, base, base + axis * (r * 1.25) + side * (r * 0.55 * x),
+                    {.width = r * 0.24, .hatched = false});
         }
     }
     Sheets sheets;
@@ -220,7 +226,8 @@ void compositeHead(Plate& plate, Point at, double degrees, const CompositeForm& 
         const int count = allRays ? static_cast<int>(f.rays * (1 - 0.6 * q)) : f.rays;
         for (int k = 0; k < count; ++k)
             sheets.petal(frame, 360.0 * k / count + ring * 180.0 / count + plate.random.around(2.5),
-                         {.length = f.length * s * (1 - (allRays ? 0.6 * q : 0.1 * ring)) * plate.random.uniform(0.94, 1.04),
+                         {.length = f.length * s * (1 - (allRays ? 0.6 * q : 0.1 * ring)) *
+                                    plate.random.uniform(0.94, 1.04),
                           .width = f.width * s * (1 - 0.3 * q),
                           .baseAngle = f.baseAngle - 58 * q - 4 * ring,
                           .tipAngle = f.tipAngle - 66 * q - 4 * ring,
@@ -232,7 +239,8 @@ void compositeHead(Plate& plate, Point at, double degrees, const CompositeForm& 
                           .columns = 7},
                          plate.random);
     }
-    sheets.engrave(plate, {.palettes = {f.tips ? Sheets::Style::Tint(f.palette, *f.tips) : Sheets::Style::Tint(f.palette)},
+    sheets.engrave(plate, {.palettes = {f.tips ? Sheets::Style::Tint(f.palette, *f.tips)
+                                               : Sheets::Style::Tint(f.palette)},
                            .spacing = 1.4,
                            .contour = 0.5,
                            .edge = 0.9,
@@ -252,7 +260,8 @@ void compositeHead(Plate& plate, Point at, double degrees, const CompositeForm& 
         const double q = std::sqrt((k + 0.5) / count), a = k * goldenAngle;
         const Point p = at + up * (r * 0.2) + flattened(a, r * q, squash) + up * (f.dome * r * (1 - q * q));
         const Point d = direction(a);
-        const double tone = std::clamp(0.32 + 0.35 * (d.x * 0.6 + d.y * 0.8) * q + 0.2 * (q > 0.85 ? 1 : 0), 0.0, 1.0);
+        const double tone =
+            std::clamp(0.32 + 0.35 * (d.x * 0.6 + d.y * 0.8) * q + 0.2 * (q > 0.85 ? 1 : 0), 0.0, 1.0);
         const double size = std::max(0.55, r * 0.062) * (0.75 + 0.5 * q);
         const Path dot = ellipse(p, size, size * (0.5 + 0.5 * squash), 9);
         plate.flat(dot, f.discPalette, tone);
@@ -309,14 +318,26 @@ void thistleHead(Plate& plate, Point at, double degrees, const ThistleForm& f, d
             const double x = (k - (n - 1) / 2.0) / ((n - 1) / 2.0);
             const Point base = mouth + side * (x * f.radius * s * 0.55);
             const double a = degrees + x * f.brushSpread / 2 * (1 - layer * 0.2) + plate.random.around(4);
-            leaflet(plate, base, polar(base, a, f.brush * s * (0.95 - 0.15 * layer) * plate.random.uniform(0.9, 1.08)),
-                    {.width = 1.3 * s, .palette = f.palette, .shape = {0.4, 0.5, 0.7, 1, 0.8, 0}, .tone = 0.2 + 0.1 * layer, .contour = 0.4,
-                     .hatched = false, .shade = 0.1, .halo = 0.15});
+            leaflet(plate, base,
+                    polar(base, a, f.brush * s * (0.95 - 0.15 * layer) * plate.random.uniform(0.9, 1.08)),
+                    {.width = 1.3 * s,
+                     .palette = f.palette,
+                     .shape = {0.4, 0.5, 0.7, 1, 0.8, 0},
+                     .tone = 0.2 + 0.1 * layer,
+                     .contour = 0.4,
+                     .hatched = false,
+                     .shade = 0.1,
+                     .halo = 0.15});
         }
     }
     scales(plate, at, degrees,
-           {.radius = f.radius, .length = f.length * 0.85, .shape = {0.6, 1, 1.02, 0.85, 0.68}, .rows = 6, .perRow = 7,
-            .palette = f.scalePalette, .spines = f.spines},
+           {.radius = f.radius,
+            .length = f.length * 0.85,
+            .shape = {0.6, 1, 1.02, 0.85, 0.68},
+            .rows = 6,
+            .perRow = 7,
+            .palette = f.scalePalette,
+            .spines = f.spines},
            s);
 }
 
@@ -341,13 +362,20 @@ void globeHead(Plate& plate, Point at, double degrees, const GlobeForm& f, doubl
         const double flat = maths::length(place.n.x, place.n.y);
         const double tone = std::clamp(toneOf(place.n) * 0.55 + f.tone - 0.1, 0.0, 0.6);
         if (f.stars) {
-            floret(plate, place.p + out * (f.petal * s * 0.4 * flat), f.petal * s * 0.42, f.palette, 6, f.palette.dark);
+            floret(plate, place.p + out * (f.petal * s * 0.4 * flat), f.petal * s * 0.42, f.palette, 6,
+                   f.palette.dark);
             continue;
         }
         const double reach = f.petal * s * (0.45 + 0.55 * flat);
         leaflet(plate, place.p - out * (reach * 0.4), place.p + out * (reach * 0.6),
-                {.width = f.petalWidth * s * (1.15 - 0.3 * flat), .palette = f.palette, .shape = {0.6, 0.9, 1, 0.95, 0.7, 0},
-                 .tone = tone, .contour = 0.42, .hatched = false, .shade = 0.14, .halo = 0.15});
+                {.width = f.petalWidth * s * (1.15 - 0.3 * flat),
+                 .palette = f.palette,
+                 .shape = {0.6, 0.9, 1, 0.95, 0.7, 0},
+                 .tone = tone,
+                 .contour = 0.42,
+                 .hatched = false,
+                 .shade = 0.14,
+                 .halo = 0.15});
     }
 }
 

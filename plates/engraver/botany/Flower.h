@@ -12,7 +12,8 @@ struct FlowerForm {
     double length = 14;
     /// Half a petal's breadth.
     double width = 6;
-    /// Degrees of a petal from the axis at base and tip: 10, 20 a goblet; 60, 85 open; 80, 95 flat; 150, 175 reflexed.
+    /// Degrees of a petal from the axis at base and tip: 10, 20 a goblet; 60, 85 open; 80, 95 flat; 150, 175
+    /// reflexed.
     double baseAngle = 60;
     double tipAngle = 85;
     Profile shape = shapes::obovate;
@@ -52,7 +53,8 @@ struct FlowerForm {
     double washLift = 0.10;
     double ambient = -0.04;
 };
-/// Draws the flower with its base at `at`; its axis points in the direction `degrees`. `scale` sizes all of it.
+/// Draws the flower with its base at `at`; its axis points in the direction `degrees`. `scale` sizes all of
+/// it.
 void flower(Plate& plate, Point at, double degrees, const FlowerForm& form, double scale = 1);
 
 /// A bell, urn or funnel with lobes at its mouth; `degrees` is the direction in which the mouth looks.

@@ -12,16 +12,20 @@ namespace {
 
 // A thin stalk: a green line between two fine ink lines is all that its size bears.
 void stalk(Plate& plate, const Path& spine, double radius, const Palette& palette) {
-    tube(plate, spine, {radius, radius * 0.8}, {.palette = palette, .spacing = 3, .contour = 0.55, .shade = 0.15});
+    tube(plate, spine, {radius, radius * 0.8},
+         {.palette = palette, .spacing = 3, .contour = 0.55, .shade = 0.15});
 }
 
 } // namespace
 
 FlowerAt flowers(FlowerForm form) {
-    return [form](Plate& p, Point at, double degrees, double scale, int) { flower(p, at, degrees, form, scale); };
+    return [form](Plate& p, Point at, double degrees, double scale, int) {
+        flower(p, at, degrees, form, scale);
+    };
 }
 FlowerAt bells(BellForm form) {
-    return [form](Plate& p, Point at, double degrees, double scale, int) { bell(p, at, degrees, form, scale); };
+    return
+        [form](Plate& p, Point at, double degrees, double scale, int) { bell(p, at, degrees, form, scale); };
 }
 FlowerAt lips(double size, Palette palette) {
     return [=](Plate& p, Point at, double degrees, double scale, int side) {
@@ -34,16 +38,24 @@ FlowerAt peas(double size, Palette palette) {
     };
 }
 FlowerAt florets(double radius, Palette palette, int petals) {
-    return [=](Plate& p, Point at, double, double scale, int) { floret(p, at, radius * scale, palette, petals); };
+    return [=](Plate& p, Point at, double, double scale, int) {
+        floret(p, at, radius * scale, palette, petals);
+    };
 }
 FlowerAt composites(CompositeForm form) {
-    return [form](Plate& p, Point at, double degrees, double scale, int) { compositeHead(p, at, degrees, form, scale); };
+    return [form](Plate& p, Point at, double degrees, double scale, int) {
+        compositeHead(p, at, degrees, form, scale);
+    };
 }
 FlowerAt globes(GlobeForm form) {
-    return [form](Plate& p, Point at, double degrees, double scale, int) { globeHead(p, at, degrees, form, scale); };
+    return [form](Plate& p, Point at, double degrees, double scale, int) {
+        globeHead(p, at, degrees, form, scale);
+    };
 }
 FlowerAt thistles(ThistleForm form) {
-    return [form](Plate& p, Point at, double degrees, double scale, int) { thistleHead(p, at, degrees, form, scale); };
+    return [form](Plate& p, Point at, double degrees, double scale, int) {
+        thistleHead(p, at, degrees, form, scale);
+    };
 }
 FlowerAt berries(double radius, Palette palette, double squash) {
     return [=](Plate& p, Point at, double degrees, double scale, int) {
@@ -100,11 +112,17 @@ Inflorescence corymb(Corymb f) {
         for (int i = 0; i < f.count; ++i) {
             const double t = f.count > 1 ? (i - (f.count - 1) / 2.0) / ((f.count - 1) / 2.0) : 0;
             const double a = way + t * f.spread / 2;
-            arms.push_back({std::fabs(t), a, polar(tip, a, f.length * (1 - 0.12 * std::fabs(t)) * p.random.uniform(0.86, 1.05))});
+            arms.push_back(
+                {std::fabs(t), a,
+                 polar(tip, a, f.length * (1 - 0.12 * std::fabs(t)) * p.random.uniform(0.86, 1.05))});
         }
-        std::stable_sort(arms.begin(), arms.end(), [](const Arm& a, const Arm& b) { return a.reach > b.reach; });
+        std::stable_sort(arms.begin(), arms.end(),
+                         [](const Arm& a, const Arm& b) { return a.reach > b.reach; });
         for (const Arm& arm : arms)
-            stalk(p, {tip, engraver::lerp(tip, arm.end, 0.5) + direction(way) * (f.length * 0.06 * arm.reach), arm.end}, 1, f.stalk);
+            stalk(p,
+                  {tip, engraver::lerp(tip, arm.end, 0.5) + direction(way) * (f.length * 0.06 * arm.reach),
+                   arm.end},
+                  1, f.stalk);
         for (const Arm& arm : arms)
             f.flower(p, arm.end, arm.angle, f.scale, arm.angle < way ? -1 : 1);
     };
@@ -117,17 +135,21 @@ Inflorescence umbel(Umbel f) {
         std::vector<std::pair<double, int>> order;
         for (int k = 0; k < f.rays; ++k)
             order.emplace_back(-std::fabs(k - (f.rays - 1) / 2.0), k);
-        std::stable_sort(order.begin(), order.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+        std::stable_sort(order.begin(), order.end(),
+                         [](const auto& a, const auto& b) { return a.first < b.first; });
         for (const auto& [unused, k] : order) {
             const double t = (k - (f.rays - 1) / 2.0) / std::max((f.rays - 1) / 2.0, 0.5);
             const double a = way + t * f.spread / 2;
-            const double reach = f.length * (1 - (1 - f.flatness) * t * t * 0.6) * p.random.uniform(0.94, 1.05);
+            const double reach =
+                f.length * (1 - (1 - f.flatness) * t * t * 0.6) * p.random.uniform(0.94, 1.05);
             const Point end = polar(tip, a, reach);
-            tube(p, {tip, engraver::lerp(tip, end, 0.5) + direction(way) * (reach * 0.04), end}, {f.rayRadius, f.rayRadius * 0.6},
+            tube(p, {tip, engraver::lerp(tip, end, 0.5) + direction(way) * (reach * 0.04), end},
+                 {f.rayRadius, f.rayRadius * 0.6},
                  {.palette = f.stalk, .spacing = 2.5, .contour = 0.5, .shade = 0.1});
             for (int j = 0; j < f.raylets; ++j) {
                 const double b = a + (j - (f.raylets - 1) / 2.0) / std::max((f.raylets - 1) / 2.0, 0.5) * 75;
-                p.stroke({end, polar(end, b, f.rayletLength)}, {.width = 0.42, .swell = 0, .fade = 0, .wobble = 0});
+                p.stroke({end, polar(end, b, f.rayletLength)},
+                         {.width = 0.42, .swell = 0, .fade = 0, .wobble = 0});
             }
             for (int j = 0; j < f.raylets * 2; ++j) {
                 const double b = a + p.random.around(95);
@@ -147,7 +169,8 @@ Inflorescence spike(Spike f) {
         const Path s = resample(stem, 200);
         const Path n = normals(s);
         const auto place = [&](double t, double x) {
-            const auto i = static_cast<std::size_t>(std::clamp((f.from + (1 - f.from) * t) * 199, 0.0, 199.0));
+            const auto i =
+                static_cast<std::size_t>(std::clamp((f.from + (1 - f.from) * t) * 199, 0.0, 199.0));
             return s[i] + n[i] * (x * f.radius * f.shape(t));
         };
         const int count = static_cast<int>(size * f.radius * 2 / (f.grain * f.grain * 1.7) * f.density);
@@ -155,12 +178,15 @@ Inflorescence spike(Spike f) {
         // From the rim inwards, so that the middle stands out.
         for (int k = 0; k < count; ++k) {
             const double depth = 1 - (k + 0.5) / count;
-            const double x = (p.random.chance(0.5) ? 1 : -1) * std::sqrt(p.random.uniform()) * (0.25 + 0.75 * depth);
+            const double x =
+                (p.random.chance(0.5) ? 1 : -1) * std::sqrt(p.random.uniform()) * (0.25 + 0.75 * depth);
             const double t = std::clamp(p.random.uniform(0, 1.0), 0.0, 0.99);
             const Point at = place(t, x);
             const bool other = p.random.chance(f.secondShare);
-            const double tone = std::clamp(0.22 + 0.3 * x * (n[100].x > 0 ? 1 : -1) + p.random.around(0.1), 0.05, 0.75);
-            const Path outline = ellipse(at, f.grain * p.random.uniform(0.8, 1.15), f.grain * p.random.uniform(0.7, 1.0), 10);
+            const double tone =
+                std::clamp(0.22 + 0.3 * x * (n[100].x > 0 ? 1 : -1) + p.random.around(0.1), 0.05, 0.75);
+            const Path outline =
+                ellipse(at, f.grain * p.random.uniform(0.8, 1.15), f.grain * p.random.uniform(0.7, 1.0), 10);
             p.knockOut(outline, {.halo = 0.15, .shade = 0});
             p.flat(outline, other ? f.second : f.palette, tone);
             p.contour(outline, {.width = 0.5, .lit = 0.3, .wobble = 0});
@@ -180,7 +206,9 @@ Inflorescence panicle(Panicle f) {
                 const double reach = f.width * (1 - 0.88 * t) * p.random.uniform(0.88, 1.08);
                 const double a = way + side * f.angle * (1 - 0.3 * t);
                 const Point end = polar(at, a, reach) + Point{0, -reach * 0.25 * (f.rise - 0)};
-                const Path branch = spline({at, polar(at, a, reach * 0.5), f.rise > 0 ? end : end + Point{side * reach * 0.1, reach * 0.55}}, 16);
+                const Path branch = spline({at, polar(at, a, reach * 0.5),
+                                            f.rise > 0 ? end : end + Point{side * reach * 0.1, reach * 0.55}},
+                                           16);
                 p.stroke(branch, {.width = 0.9, .swell = 0, .fade = 0.4});
                 const int n = std::max(2, static_cast<int>(f.perBranch * (1 - 0.65 * t)));
                 for (int k = 0; k < n; ++k) {
@@ -204,7 +232,8 @@ Inflorescence coiledCyme(CoiledCyme f) {
             const int side = branch % 2 == 0 ? 1 : -1;
             const Point at = along(stem, 1 - 0.12 * (branch / 2));
             const double way = angleAlong(stem, 1) + side * f.angle;
-            Path curl = spline({at, polar(at, way - side * 6, f.length * 0.5), polar(at, way + side * 6, f.length)}, 16);
+            Path curl = spline(
+                {at, polar(at, way - side * 6, f.length * 0.5), polar(at, way + side * 6, f.length)}, 16);
             const Point top = curl.back();
             const double leave = angleAlong(curl, 1);
             const Point centre = polar(top, leave + side * 90, f.radius);
@@ -214,7 +243,9 @@ Inflorescence coiledCyme(CoiledCyme f) {
             }
             tube(p, curl, {1.5, 1.1, 0.7}, {.palette = f.stalk, .spacing = 2});
             for (int k = f.count - 1; k >= 0; --k) {
-                const double u = 0.28 + 0.66 * k / std::max(f.count - 1, 1), size = lerp(f.largest, f.smallest, k / static_cast<double>(std::max(f.count - 1, 1)));
+                const double u = 0.28 + 0.66 * k / std::max(f.count - 1, 1),
+                             size = lerp(f.largest, f.smallest,
+                                         k / static_cast<double>(std::max(f.count - 1, 1)));
                 const Point from = along(curl, u);
                 const double out = angleAlong(curl, u) - side * 62;
                 f.flower(p, polar(from, out, 1.5), out, size, side);

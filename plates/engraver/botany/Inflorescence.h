@@ -5,8 +5,8 @@
 
 namespace tambrelle::engraver {
 
-/// Draws one flower (fruit, floret, spikelet) with its base at `at`, looking in the direction `degrees`; `scale` is 1
-/// for the largest of the cluster, `side` -1 left, +1 right.
+/// Draws one flower (fruit, floret, spikelet) with its base at `at`, looking in the direction `degrees`;
+/// `scale` is 1 for the largest of the cluster, `side` -1 left, +1 right.
 using FlowerAt = std::function<void(Plate&, Point at, double degrees, double scale, int side)>;
 /// Sets flowers on a stem (its curve, base to tip).
 using Inflorescence = std::function<void(Plate&, const Path& stem)>;
@@ -109,7 +109,8 @@ struct Panicle {
 };
 Inflorescence panicle(Panicle form);
 
-/// A coiled (scorpioid) cyme: comfrey, heliotrope, viper's bugloss. Flowers sit on the outer side of the curl.
+/// A coiled (scorpioid) cyme: comfrey, heliotrope, viper's bugloss. Flowers sit on the outer side of the
+/// curl.
 struct CoiledCyme {
     FlowerAt flower;
     int count = 8;
