@@ -13,7 +13,7 @@ void ear(Plate& plate, const Path& spine, const EarForm& f) {
         const Point at = along(s, q);
         const double way = angleAlong(s, q);
         const Point n = rightOf(direction(way));
-        const double share = std::min(1.0, 0.62 + k / (f.spikelets * 0.9)) *
+        const double share = std::min(1.0, 0.5 + 1.3 * k / f.spikelets) *
                              std::min(1.0, 0.62 + 1.6 * (f.spikelets - k) / f.spikelets);
         std::vector<double> sides = k % 2 == 0 ? std::vector<double>{-1, 1} : std::vector<double>{1, -1};
         if (f.lax)

@@ -24,13 +24,13 @@ Point gourd(Plate& plate, Point c, const GourdForm& f) {
     const double deep = f.depth;
     for (const Rib& rib : ribs) {
         const double fall = rib.x * rib.x, half = rib.width * w * (1.22 + 0.12 * deep), x = rib.x * w * 0.97;
-        const Point top = c + Point{rib.x * w * 0.30, -h * (0.80 - 0.14 * fall)},
-                    foot = c + Point{rib.x * w * 0.55, h * (1 - 0.22 * fall)};
+        const Point top = c + Point{rib.x * w * 0.30, -h * (0.84 - 0.30 * fall)},
+                    foot = c + Point{rib.x * w * 0.55, h * (0.97 - 0.24 * fall)};
         const Path outline = closedSpline(
-            {top, c + Point{x - half * 0.66, -h * (0.92 - 0.30 * fall)}, c + Point{x - half, -h * 0.12},
+            {top, c + Point{x - half * 0.66, -h * (0.95 - 0.50 * fall)}, c + Point{x - half, -h * 0.12},
              c + Point{x - half * 0.84, h * 0.60}, foot + Point{-half * 0.3, h * 0.02},
              foot + Point{half * 0.3, h * 0.02}, c + Point{x + half * 0.84, h * 0.60},
-             c + Point{x + half, -h * 0.12}, c + Point{x + half * 0.66, -h * (0.92 - 0.30 * fall)}},
+             c + Point{x + half, -h * 0.12}, c + Point{x + half * 0.66, -h * (0.95 - 0.50 * fall)}},
             12);
         ReliefForm form{.palette = f.palette,
                         .bevel = 46,

@@ -55,7 +55,7 @@ void curd(Plate& plate, Point centre, const CurdForm& f) {
              d * rim});
     }
     std::stable_sort(knobs.begin(), knobs.end(), [](const Knob& a, const Knob& b) { return a.rim > b.rim; });
-    plate.flat(ellipse(centre, f.width * 0.96, f.height * 0.96), f.palette, 0.6);
+    plate.flat(ellipse(centre, f.width * 0.96, f.height * 0.96), f.palette, 0.42);
     for (const Knob& knob : knobs) {
         const double r = f.knob * (1 - 0.22 * knob.rim) * plate.random.uniform(0.88, 1.1);
         const double phase = plate.random.uniform(0, 3);
@@ -65,7 +65,7 @@ void curd(Plate& plate, Point centre, const CurdForm& f) {
             const double reach = r * (0.94 + 0.16 * maths::pow(std::fabs(maths::sin(a * 3.5 + phase)), 0.8));
             outline.push_back(knob.at + Point{reach * maths::cos(a), reach * 0.92 * maths::sin(a)});
         }
-        const double tone = 0.05 + 0.20 * dot(knob.from, {0.5, 0.6});
+        const double tone = -0.05 + 0.18 * dot(knob.from, {0.5, 0.6});
         const ReliefSurface s = relief(plate, outline,
                                        {.palette = f.palette,
                                         .bevel = r * 0.9,

@@ -41,7 +41,7 @@ struct CurdForm {
     int knobs = 70;
     /// Radius of the largest.
     double knob = 11;
-    Palette palette = palettes::cream;
+    Palette palette = mix(palettes::cream, palettes::whiteflower, 0.6);
     /// Grains on every knob.
     int grains = 0;
 };
