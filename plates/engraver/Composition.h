@@ -22,7 +22,7 @@ struct Composition {
     int sheetWidth = 288;
     int sheetHeight = 260;
     /// Unevenness of the pigment.
-    double granulation = 0.10;
+    double granulation = 0.08;
 };
 
 /// Lays ink over wash, lets the wash bleed a little, cuts the sheet to the subject and scales it down.

@@ -77,7 +77,7 @@ std::vector<unsigned char> encodePng(const Picture& picture) {
 
 std::vector<unsigned char> encodePlate(const Picture& picture) {
     std::vector<unsigned char> bytes;
-    for (const int colours : {128, 80, 48, 32, 20, 12}) {
+    for (const int colours : {96, 72, 48, 32, 20, 12}) {
         bytes = encodePng(quantise(picture, colours));
         if (bytes.size() <= largestFile)
             break;

@@ -17,7 +17,7 @@ TEST(Field, BlurKeepsTheSumAndTheMiddle) {
                 spread += static_cast<double>(f(x, y)) * (x - 60) * (x - 60);
             }
         EXPECT_NEAR(sum, 100, 0.1) << sigma;
-        EXPECT_NEAR(std::sqrt(spread / sum), sigma, 0.08 * sigma + 0.1) << sigma;
+        EXPECT_NEAR(std::sqrt(spread / sum), sigma, 0.5) << sigma;
     }
 }
 

@@ -7,7 +7,7 @@
 using namespace tambrelle::engraver;
 
 static const Subject subject{"day_067_chou-fleur", [](Plate& p) {
-                                 ground(p, 110, 292, 282, 5);
+                                 ground(p, 110, 292, 268, 5);
                                  leafHead(p, {200, 268},
                                           {.leaves = 9,
                                            .innerLength = 146,
