@@ -7,12 +7,14 @@
 #include "ui/MenuBarLabel.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
 
 namespace tambrelle {
 
 class PanelWindow;
+class SettingsView;
 
 /// The application: owns the one CalendarManager with its two services, and the two scenes, the item with its
 /// panel and the settings window.
@@ -26,6 +28,7 @@ public:
 
 private:
     [[nodiscard]] PanelWindow& panelWindow();
+    void openSettings();
 
     Platform platform;
     SoundManager sound;
@@ -33,6 +36,7 @@ private:
     CalendarManager calendarManager;
     MenuBarLabel label;
     std::unique_ptr<PanelWindow> panel; ///< made when it is first opened
+    QPointer<SettingsView> settings;    ///< while its window is open
 };
 
 } // namespace tambrelle

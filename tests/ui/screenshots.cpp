@@ -3,6 +3,7 @@
 #include "platform/freedesktop/EmojiFont.h"
 #include "tests/ui/LiveState.h"
 #include "ui/panel/MenuBarView.h"
+#include "ui/settings/SettingsView.h"
 
 #include <QApplication>
 #include <QDir>
@@ -77,6 +78,30 @@ void addThreeEvents(Album& album) {
     album.add(QStringLiteral("three-events"), view);
 }
 
+QPalette darkDesktop() {
+    QPalette palette(QColor(48, 48, 51));
+    palette.setColor(QPalette::Highlight, QColor(74, 144, 217));
+    return palette;
+}
+
+void addSettings(Album& album, const QString& name) {
+    LiveState state(usualDay);
+    SettingsView view(
+        {state.manager, state.notifications, state.sound, state.platform.loginItem, state.platform.clock});
+    view.adjustSize();
+    album.add(name, view);
+}
+
+void addSettingsWithoutTime(Album& album) {
+    LiveState state(usualDay);
+    state.notifications.setEnabled(false);
+    state.platform.loginItem.enabled = true;
+    SettingsView view(
+        {state.manager, state.notifications, state.sound, state.platform.loginItem, state.platform.clock});
+    view.adjustSize();
+    album.add(QStringLiteral("settings-without-time"), view);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -95,5 +120,9 @@ int main(int argc, char** argv) {
     addDay(album, QStringLiteral("complementary"), complementaryDay);
     addDay(album, QStringLiteral("long"), longDay);
     addThreeEvents(album);
+    addSettings(album, QStringLiteral("settings"));
+    addSettingsWithoutTime(album);
+    QApplication::setPalette(darkDesktop());
+    addSettings(album, QStringLiteral("settings-dark-desktop"));
     return EXIT_SUCCESS;
 }
