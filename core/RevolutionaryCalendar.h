@@ -11,6 +11,14 @@
 
 namespace tambrelle {
 
+/// The present by the Republican calendar: the day, and the time of that day.
+struct RevolutionaryMoment {
+    RevolutionaryDate date;
+    DecimalTime time;
+
+    bool operator==(const RevolutionaryMoment&) const = default;
+};
+
 /// The Republican calendar by its arithmetic rule: year 1 begins on 22 September 1792 and every fourth year
 /// from year 3 on has 366 days, without exception for centuries. A day begins at local midnight.
 namespace RevolutionaryCalendar {
@@ -26,6 +34,9 @@ RevolutionaryDate fromDayNumber(std::int64_t daysSinceEpoch);
 /// The decimal time of day at the instant, by the wall clock of the system's time zone; fractions of a
 /// standard second are dropped. The greatest result is 9:99:98.
 DecimalTime toDecimalTime(Instant instant);
+
+/// Both of the above from one reading of the zone, which is most of what either costs.
+RevolutionaryMoment toMoment(Instant instant);
 
 /// The number in Roman numerals, with as many M as it takes; empty for zero and below.
 std::string toRoman(std::int64_t value);
