@@ -1,7 +1,7 @@
 // tambrelle-screenshots FOLDER [SCALE]: pictures of the panel and the settings, drawn into memory.
 
 #include "platform/freedesktop/EmojiFont.h"
-#include "tests/ui/LiveState.h"
+#include "tests/ui/StateOnFakes.h"
 #include "ui/panel/MenuBarView.h"
 #include "ui/settings/SettingsView.h"
 
@@ -15,7 +15,7 @@
 namespace {
 
 using namespace tambrelle;
-using test::LiveState;
+using test::StateOnFakes;
 
 constexpr CivilComponents usualDay{2025, 11, 15, 12, 0, 0};          // 23 Brumaire
 constexpr CivilComponents complementaryDay{2025, 9, 19, 23, 59, 59}; // La Fête de la Vertu
@@ -36,7 +36,7 @@ private:
     QString folder;
 };
 
-void addShippedPictures(LiveState& state) {
+void addShippedPictures(StateOnFakes& state) {
     const QString folder = qEnvironmentVariable("TAMBRELLE_RESOURCES");
     if (folder.isEmpty())
         return;
@@ -46,7 +46,7 @@ void addShippedPictures(LiveState& state) {
 }
 
 void addDay(Album& album, const QString& name, const CivilComponents& day) {
-    LiveState state(day);
+    StateOnFakes state(day);
     addShippedPictures(state);
     MenuBarView view(state.panelServices());
     view.refresh();
@@ -57,7 +57,7 @@ void addDay(Album& album, const QString& name, const CivilComponents& day) {
 }
 
 void addThreeEvents(Album& album) {
-    LiveState state(eventDay);
+    StateOnFakes state(eventDay);
     addShippedPictures(state);
     MenuBarView view(state.panelServices());
     PanelSnapshot snapshot =
@@ -85,7 +85,7 @@ QPalette darkDesktop() {
 }
 
 void addSettings(Album& album, const QString& name) {
-    LiveState state(usualDay);
+    StateOnFakes state(usualDay);
     SettingsView view(
         {state.manager, state.notifications, state.sound, state.platform.loginItem, state.platform.clock});
     view.adjustSize();
@@ -93,7 +93,7 @@ void addSettings(Album& album, const QString& name) {
 }
 
 void addSettingsWithoutTime(Album& album) {
-    LiveState state(usualDay);
+    StateOnFakes state(usualDay);
     state.notifications.setEnabled(false);
     state.platform.loginItem.enabled = true;
     SettingsView view(
