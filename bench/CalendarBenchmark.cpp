@@ -48,13 +48,14 @@ void compare(benchmark::State& state, const char* zone, Operation operation) {
         zoneTime += timeOfTurn(at, readZone);
         const auto turn = timeOfTurn(at, operation);
         operationTime += turn;
-        state.SetIterationTime(std::chrono::duration<double>(turn).count() / callsATurn);
+        state.SetIterationTime(std::chrono::duration<double>(turn).count()); // of a whole turn
         at += callsATurn * decimalSecond;
     }
     const auto nanosecondsACall = [&state](SteadyClock::duration sum) {
         return std::chrono::duration<double, std::nano>(sum).count() / callsATurn /
                static_cast<double>(state.iterations());
     };
+    state.counters["call_ns"] = nanosecondsACall(operationTime);
     state.counters["zone_ns"] = nanosecondsACall(zoneTime);
     state.counters["ratio_to_zone"] = nanosecondsACall(operationTime) / nanosecondsACall(zoneTime);
 }

@@ -90,8 +90,8 @@ UnixSeconds changeOfOffset(UnixSeconds early, UnixSeconds late) {
 // has ever lasted (the shortest lasted for four days), and try each offset that we meet. Absent beyond the C
 // library's range.
 std::optional<Resolution> resolve(WallSeconds target) {
-    constexpr std::int64_t farthestOffset = 30 * 3600;
-    constexpr std::int64_t step = 6 * 3600;
+    constexpr std::int64_t farthestOffset = std::int64_t{30} * 3600;
+    constexpr std::int64_t step = std::int64_t{6} * 3600;
 
     Resolution found;
     const auto tryOffset = [&found, target](std::int64_t offset) {
