@@ -44,12 +44,18 @@ std::optional<WallSeconds> wallSecondsAt(UnixSeconds at) {
     return wallSeconds(*civil);
 }
 
-UnixSeconds wholeSeconds(Instant instant) {
-    return std::chrono::floor<std::chrono::seconds>(instant).time_since_epoch().count();
+// Never negative. std::chrono::floor would overflow at the earliest instants, whose second began before them.
+Instant::duration fractionOfSecond(Instant instant) {
+    constexpr Instant::duration second = std::chrono::seconds{1};
+    const auto remainder = instant.time_since_epoch() % second;
+    return remainder < Instant::duration::zero() ? remainder + second : remainder;
 }
 
-Instant::duration fractionOfSecond(Instant instant) {
-    return instant - std::chrono::floor<std::chrono::seconds>(instant);
+UnixSeconds wholeSeconds(Instant instant) {
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(instant.time_since_epoch()).count();
+    const bool isCutUpwards =
+        instant.time_since_epoch() % std::chrono::seconds{1} < Instant::duration::zero();
+    return isCutUpwards ? seconds - 1 : seconds;
 }
 
 std::optional<Instant> makeInstant(UnixSeconds seconds, Instant::duration fraction) {
