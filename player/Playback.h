@@ -1,29 +1,35 @@
 #pragma once
 
-#include <QAudioOutput>
-#include <QMediaPlayer>
+#include <QAudioFormat>
+#include <QAudioSink>
+#include <QBuffer>
 #include <QObject>
 
 namespace tambrelle {
 
-/// Plays a file once to the default output of the sound server.
+/// Plays samples once to the default output of the sound server.
 class Playback : public QObject {
     Q_OBJECT
 
 public:
-    /// `volume` is linear, 0 to 1 of the file's own level. May block for as long as the sound server does.
-    Playback(const QString& file, float volume);
+    /// `volume` is linear, 0 to 1 of the samples' own level. May block for as long as the sound server does.
+    Playback(const QByteArray& samples, const QAudioFormat& format, double volume);
 
-    /// Ends in one of the two signals; `ended` also where there is nothing to play to.
+    /// Ends in the signal, also where there is nothing to play to.
     void start();
+
+    /// Falls silent and ends.
+    void stop();
 
 signals:
     void ended();
-    void failed(const QString& reason);
 
 private:
-    QMediaPlayer player;
-    QAudioOutput output;
+    void changed(QAudio::State state);
+
+    QByteArray samples;
+    QBuffer source;
+    QAudioSink sink;
 };
 
 } // namespace tambrelle

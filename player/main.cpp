@@ -4,7 +4,8 @@
 
 #include "player/Deadline.h"
 #include "player/Playback.h"
-#include "player/SoundCheck.h"
+#include "player/SoundDecoding.h"
+#include "player/Termination.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -45,9 +46,9 @@ private:
     int descriptor;
 };
 
-std::optional<float> volumeFrom(const char* text) {
+std::optional<double> volumeFrom(const char* text) {
     bool isNumber = false;
-    const float volume = QByteArray(text).toFloat(&isNumber);
+    const double volume = QByteArray(text).toDouble(&isNumber);
     return isNumber && volume >= 0 && volume <= 1 ? std::optional(volume) : std::nullopt;
 }
 
@@ -84,15 +85,23 @@ int main(int argc, char** argv) {
         std::_Exit(EXIT_FAILURE);
     };
     std::unique_ptr<Playback> playback;
-    SoundCheck check(file);
-    QObject::connect(&check, &SoundCheck::failed, &check, fail);
-    QObject::connect(&check, &SoundCheck::passed, &check, [&](std::chrono::milliseconds length) {
-        endProcessAfter(length + patience);
-        playback = std::make_unique<Playback>(file, *volume);
-        QObject::connect(playback.get(), &Playback::failed, &check, fail);
-        QObject::connect(playback.get(), &Playback::ended, &check, [] { std::_Exit(EXIT_SUCCESS); });
+    SoundDecoding decoding(file);
+    QObject::connect(&decoding, &SoundDecoding::failed, &decoding, fail);
+    QObject::connect(&decoding, &SoundDecoding::decoded, &decoding, [&](const QByteArray& samples) {
+        const QAudioFormat format = SoundDecoding::format();
+        const std::chrono::microseconds length(format.durationForBytes(static_cast<qint32>(samples.size())));
+        endProcessAfter(std::chrono::ceil<std::chrono::milliseconds>(length) + patience);
+        playback = std::make_unique<Playback>(samples, format, *volume);
+        QObject::connect(playback.get(), &Playback::ended, &decoding, [] { std::_Exit(EXIT_SUCCESS); });
         playback->start();
     });
-    QMetaObject::invokeMethod(&check, &SoundCheck::start, Qt::QueuedConnection);
+    const Termination termination;
+    QObject::connect(&termination, &Termination::requested, &decoding, [&playback] {
+        if (playback)
+            playback->stop();
+        else
+            std::_Exit(EXIT_SUCCESS);
+    });
+    QMetaObject::invokeMethod(&decoding, &SoundDecoding::start, Qt::QueuedConnection);
     return QCoreApplication::exec();
 }

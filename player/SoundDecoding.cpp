@@ -1,4 +1,4 @@
-#include "player/SoundCheck.h"
+#include "player/SoundDecoding.h"
 
 #include "player/WaveHeader.h"
 
@@ -17,6 +17,9 @@ using namespace std::chrono_literals;
 
 /// A decoder that has given nothing for so long will give nothing more.
 constexpr auto longestStall = 4s;
+
+/// It is held in memory, 10 MB a minute.
+constexpr std::chrono::microseconds longestSound = 10min;
 
 /// What a decoded length may lack of the promised one: encoders pad, and a promise may be an estimate.
 constexpr auto padding = 250ms;
@@ -40,20 +43,29 @@ QString whyUnreadable(const QString& path) {
 
 } // namespace
 
-SoundCheck::SoundCheck(const QString& file) : file(file) {
+SoundDecoding::SoundDecoding(const QString& file) : file(file) {
     stall.setInterval(longestStall);
     stall.setSingleShot(true);
     connect(&stall, &QTimer::timeout, this, [this] { finish(QString(undecodable)); });
     connect(&opener, &QMediaPlayer::errorOccurred, this,
             [this](QMediaPlayer::Error) { finish(QString(undecodable)); });
-    connect(&opener, &QMediaPlayer::mediaStatusChanged, this, &SoundCheck::opened);
+    connect(&opener, &QMediaPlayer::mediaStatusChanged, this, &SoundDecoding::opened);
     connect(&decoder, qOverload<QAudioDecoder::Error>(&QAudioDecoder::error), this,
             [this](QAudioDecoder::Error) { finish(decoder.errorString()); });
-    connect(&decoder, &QAudioDecoder::bufferReady, this, &SoundCheck::decoded);
-    connect(&decoder, &QAudioDecoder::finished, this, &SoundCheck::compareLengths);
+    connect(&decoder, &QAudioDecoder::bufferReady, this, &SoundDecoding::collect);
+    connect(&decoder, &QAudioDecoder::finished, this, &SoundDecoding::judge);
 }
 
-void SoundCheck::start() {
+QAudioFormat SoundDecoding::format() {
+    constexpr int compactDiscRate = 44100;
+    QAudioFormat format;
+    format.setSampleRate(compactDiscRate);
+    format.setChannelConfig(QAudioFormat::ChannelConfigStereo);
+    format.setSampleFormat(QAudioFormat::Int16);
+    return format;
+}
+
+void SoundDecoding::start() {
     if (const QString reason = whyUnreadable(file); !reason.isEmpty()) {
         finish(reason);
         return;
@@ -62,42 +74,48 @@ void SoundCheck::start() {
     opener.setSource(QUrl::fromLocalFile(file));
 }
 
-void SoundCheck::finish(const QString& reason) {
+void SoundDecoding::finish(const QString& reason) {
     if (std::exchange(finished, true))
         return;
     stall.stop();
     emit failed(reason.isEmpty() ? QString(undecodable) : reason);
 }
 
-void SoundCheck::opened(QMediaPlayer::MediaStatus status) {
+void SoundDecoding::opened(QMediaPlayer::MediaStatus status) {
     if (finished || status != QMediaPlayer::LoadedMedia)
         return;
     if (!opener.hasAudio()) {
         finish(QStringLiteral("no sound in the file"));
         return;
     }
+    decoder.setAudioFormat(format());
     decoder.setSource(opener.source());
     decoder.start();
 }
 
-void SoundCheck::decoded() {
+void SoundDecoding::collect() {
     stall.start();
-    while (decoder.bufferAvailable())
-        decodedLength += std::chrono::microseconds(decoder.read().duration());
+    while (decoder.bufferAvailable()) {
+        const QAudioBuffer buffer = decoder.read();
+        samples.append(buffer.constData<char>(), buffer.byteCount());
+    }
+    if (format().durationForBytes(static_cast<qint32>(samples.size())) > longestSound.count())
+        finish(QStringLiteral("the sound is too long"));
 }
 
-void SoundCheck::compareLengths() {
+void SoundDecoding::judge() {
     if (finished)
         return;
+    const std::chrono::microseconds length(format().durationForBytes(static_cast<qint32>(samples.size())));
     const std::chrono::duration<double, std::milli> promised(static_cast<double>(opener.duration()));
-    if (decodedLength == 0us) {
+    if (samples.isEmpty()) {
         finish(QStringLiteral("no sound in the file"));
-    } else if (decodedLength + padding < promised * (1 - estimate)) {
+    } else if (length + padding < promised * (1 - estimate)) {
         finish(QStringLiteral("the file is cut short"));
     } else {
         finished = true;
         stall.stop();
-        emit passed(std::chrono::ceil<std::chrono::milliseconds>(decodedLength));
+        emit decoded(samples);
     }
 }
 

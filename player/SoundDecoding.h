@@ -1,39 +1,43 @@
 #pragma once
 
 #include <QAudioDecoder>
+#include <QAudioFormat>
+#include <QByteArray>
 #include <QMediaPlayer>
 #include <QObject>
 #include <QTimer>
 
-#include <chrono>
-
 namespace tambrelle {
 
-/// Decodes a file from end to end without a sound, so that a damaged one is known before any of it is heard.
-class SoundCheck : public QObject {
+/// Decodes a file from end to end before a sound is heard, so that a damaged one is known in time.
+class SoundDecoding : public QObject {
     Q_OBJECT
 
 public:
-    explicit SoundCheck(const QString& file);
+    explicit SoundDecoding(const QString& file);
+
+    /// What the samples are decoded to: signed 16-bit, two channels, 44100 Hz.
+    static QAudioFormat format();
 
     /// Ends in one of the two signals.
     void start();
 
 signals:
-    void passed(std::chrono::milliseconds length);
+    /// All samples, in `format()`.
+    void decoded(const QByteArray& samples);
     void failed(const QString& reason);
 
 private:
     void finish(const QString& reason);
     void opened(QMediaPlayer::MediaStatus status);
-    void decoded();
-    void compareLengths();
+    void collect();
+    void judge();
 
     QString file;
     QMediaPlayer opener; // says what the decoder keeps to itself: why a file can't be opened, and its length
     QAudioDecoder decoder;
     QTimer stall;
-    std::chrono::microseconds decodedLength{0};
+    QByteArray samples;
     bool finished = false;
 };
 
