@@ -1,35 +1,14 @@
 #pragma once
 
-#include <QAudioFormat>
-#include <QAudioSink>
-#include <QBuffer>
-#include <QObject>
+#include "player/Sound.h"
+
+#include <functional>
 
 namespace tambrelle {
 
-/// Plays samples once to the default output of the sound server.
-class Playback : public QObject {
-    Q_OBJECT
-
-public:
-    /// `volume` is linear, 0 to 1 of the samples' own level. May block for as long as the sound server does.
-    Playback(const QByteArray& samples, const QAudioFormat& format, double volume);
-
-    /// Ends in the signal, also where there is nothing to play to.
-    void start();
-
-    /// Falls silent and ends.
-    void stop();
-
-signals:
-    void ended();
-
-private:
-    void changed(QAudio::State state);
-
-    QByteArray samples;
-    QBuffer source;
-    QAudioSink sink;
-};
+/// Plays a sound once to the default output of the sound server, and returns when it has been heard, when
+/// `stop` says so, or at once when there is no server. `volume` is linear, 0 to 1 of the sound's own level.
+/// Blocks for as long as the server does.
+void play(const Sound& sound, double volume, const std::function<bool()>& stop);
 
 } // namespace tambrelle

@@ -1,24 +1,12 @@
 #pragma once
 
-#include <QObject>
-#include <QSocketNotifier>
-
 namespace tambrelle {
 
-/// Turns SIGTERM into a signal of the event loop. A process whose event loop does not get round to it ends
-/// all the same, a second later. There is one at a time.
-class Termination : public QObject {
-    Q_OBJECT
+/// From now on SIGTERM is a request. A process that does not get round to it ends all the same, a second
+/// later.
+void takeTerminationAsARequest();
 
-public:
-    Termination();
-    ~Termination() override;
-
-signals:
-    void requested();
-
-private:
-    QSocketNotifier notifier;
-};
+/// Whether it has come.
+bool terminationRequested();
 
 } // namespace tambrelle
