@@ -56,6 +56,7 @@ TEST(Slogans, AllOccurAboutEquallyOftenAndMayRepeat) {
     SeededWords words;
     constexpr int draws = 100'000;
     std::map<std::string_view, int> counts;
+    constexpr double share = draws / 10.0;
     int repeats = 0;
     std::string_view previous;
     for (int draw = 0; draw < draws; ++draw) {
@@ -66,8 +67,8 @@ TEST(Slogans, AllOccurAboutEquallyOftenAndMayRepeat) {
     }
     ASSERT_EQ(counts.size(), slogans.size());
     for (const auto& [slogan, count] : counts)
-        EXPECT_NEAR(count, draws / 10, draws / 200) << slogan;
-    EXPECT_NEAR(repeats, draws / 10, draws / 200);
+        EXPECT_NEAR(count, share, share / 20) << slogan;
+    EXPECT_NEAR(repeats, share, share / 20);
 }
 
 } // namespace

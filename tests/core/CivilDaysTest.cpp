@@ -36,9 +36,9 @@ TEST(CivilDays, HoldsForEveryYearThatFitsAnInt) {
     constexpr std::int64_t least = -2'147'483'648;
     EXPECT_EQ(civilDayNumber(greatest, 12, 31) - civilDayNumber(greatest, 1, 1), 364);
     // 400 years are always 146,097 days.
-    EXPECT_EQ(civilDayNumber(greatest, 1, 1) - civilDayNumber(greatest - 400 * 5'000'000, 1, 1),
+    EXPECT_EQ(civilDayNumber(greatest, 1, 1) - civilDayNumber(greatest - std::int64_t{400} * 5'000'000, 1, 1),
               146'097LL * 5'000'000);
-    EXPECT_EQ(civilDayNumber(least + 400 * 5'000'000, 1, 1) - civilDayNumber(least, 1, 1),
+    EXPECT_EQ(civilDayNumber(least + std::int64_t{400} * 5'000'000, 1, 1) - civilDayNumber(least, 1, 1),
               146'097LL * 5'000'000);
 }
 

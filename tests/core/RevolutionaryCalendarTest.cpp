@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <concepts>
+#include <filesystem>
 #include <limits>
 #include <string>
 #include <type_traits>
@@ -222,11 +223,11 @@ TEST(DecimalTime, DropsFractions) {
 }
 
 TEST(DecimalTime, ReadsALeapSecondAsTheSecondBeforeIt) {
-    // Zone data that counts leap seconds shows 23:59:60 here.
-    const test::ZoneGuard zone{"right/UTC"};
+    if (!std::filesystem::exists("/usr/share/zoneinfo/right/UTC"))
+        GTEST_SKIP() << "this system's zone data counts no leap seconds";
+    const test::ZoneGuard zone{"right/UTC"}; // which shows 23:59:60 here
     const Instant afterLeap = local({2017, 1, 1, 0, 0, 0});
-    ASSERT_EQ(afterLeap.time_since_epoch(), 1'483'228'827s)
-        << "needs the leap-second zones of tzdata-legacy or tzdata";
+    ASSERT_EQ(afterLeap.time_since_epoch(), 1'483'228'827s);
     EXPECT_EQ(toDecimalTime(afterLeap - 1s), (DecimalTime{9, 99, 98}));
     EXPECT_EQ(fromGregorian(afterLeap - 1s), fromGregorian(afterLeap - 2s));
     EXPECT_EQ(toDecimalTime(afterLeap), (DecimalTime{0, 0, 0}));

@@ -129,7 +129,7 @@ struct YearlyChange {
         return day.time_since_epoch().count() * 86'400LL + wallTime - offsetBefore;
     }
     unsigned month = 0, week = 0, weekday = 0;
-    std::int64_t wallTime = 2 * 3600;
+    std::int64_t wallTime = std::int64_t{2} * 3600;
 };
 
 std::int64_t yearOf(std::int64_t at) {
@@ -243,7 +243,7 @@ std::int64_t ZoneFile::offsetAt(std::int64_t at) const {
 }
 
 std::optional<std::int64_t> ZoneFile::firstAt(std::int64_t wall) const {
-    constexpr std::int64_t farthestOffset = 30 * 3600;
+    constexpr std::int64_t farthestOffset = std::int64_t{30} * 3600;
     auto change =
         std::upper_bound(changes_.begin(), changes_.end(), wall - farthestOffset,
                          [](std::int64_t time, const OffsetChange& entry) { return time < entry.at; });
