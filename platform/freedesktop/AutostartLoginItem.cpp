@@ -11,7 +11,7 @@ namespace tambrelle {
 namespace {
 
 /// A desktop entry of ours has some ten lines; what is larger is not read further.
-constexpr qint64 mostRead = 16 * 1024;
+constexpr qint64 mostRead = 16LL * 1024;
 
 /// An argument of an Exec line: in double quotes, with the characters escaped that the desktop entry format
 /// reserves there, and then once more for the format's own strings.

@@ -11,7 +11,7 @@ namespace tambrelle {
 namespace {
 
 /// Eight short lines need less than 1 KB; a file beyond this is not ours and is not worth the memory.
-constexpr qint64 largestSaneFile = 64 * 1024;
+constexpr qint64 largestSaneFile = 64LL * 1024;
 
 std::unique_ptr<QSettings> openStore(const QString& path) {
     return std::make_unique<QSettings>(path, QSettings::IniFormat);

@@ -254,7 +254,7 @@ TEST_F(IniUserDefaultsTest, FileOfAHundredMegabytesIsNotRead) {
 }
 
 TEST_F(IniUserDefaultsTest, KeysOfAMegabyteAreNotRead) {
-    write("[General]\n" + QByteArray(1024 * 1024, 'k') + "=1\nsoundEnabled=true\n");
+    write("[General]\n" + QByteArray(1024LL * 1024, 'k') + "=1\nsoundEnabled=true\n");
     IniUserDefaults defaults(path);
     expectEmpty(defaults);
     defaults.setBoolean(sound, true);
