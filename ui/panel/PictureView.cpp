@@ -34,13 +34,15 @@ PictureView::PictureView(QWidget* parent)
 }
 
 void PictureView::present(const std::optional<QString>& file, const QString& emoji) {
-    emojiLabel->setText(emoji);
     if (!file || *file != shownFile) {
         decoded = file ? QImage(*file) : QImage();
         shownFile = decoded.isNull() ? QString() : *file;
         composed = {};
         update();
     }
+    // A large emoji is dear to measure.
+    if (shownFile.isEmpty())
+        emojiLabel->setText(emoji);
     emojiLabel->setVisible(shownFile.isEmpty());
 }
 
