@@ -196,6 +196,10 @@ class Desktop:
     def click(self, x, y, button=1):
         self.pointer.click(x, y, button)
 
+    def click_with(self, key, x, y):
+        """Clicks while a key is held, for example "alt"."""
+        self.processes.run("xdotool", "mousemove", x, y, "keydown", key, "click", 1, "keyup", key)
+
     def key(self, *keys):
         """Presses keys by their X names, for example "Escape" or "alt+c"."""
         self.processes.run("xdotool", "key", *keys)
