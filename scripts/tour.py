@@ -19,6 +19,9 @@ LINE = "🌫️ 23 Brumaire · Tridi · 5:00"
 TODAY, TOMORROW = "23 Brumaire an CCXXXIV", "24 Brumaire an CCXXXIV"
 
 
+MISSING = (StopIteration, LookupError)
+
+
 class Tour:
     def __init__(self, desktop, program, folder):
         self.desktop = desktop
@@ -85,7 +88,7 @@ class Tour:
             until(f"the settings have a section {title!r}", lambda title=title: self.is_shown(title))
 
     def night(self):
-        self.choose("Light parchment", "Sepia night")
+        self.choose("Theme", "Sepia night")
         self.preference_becomes("appTheme=sepiaNight")
 
     def night_panel(self):
@@ -94,11 +97,11 @@ class Tour:
 
     def daylight(self):
         self.settings()
-        self.choose("Sepia night", "Light parchment")
+        self.choose("Theme", "Light parchment")
         self.preference_becomes("appTheme=light")
 
     def day_number(self):
-        self.choose("Date & decimal time", "Day number only")
+        self.choose("Show", "Day number only")
         self.program.wait_for_text("🌫️ 23")
 
     def quit(self):
@@ -125,12 +128,12 @@ class Tour:
         self.program.must_run()
         return bool(self.program.nodes(name=name))
 
-    def choose(self, present, option):
-        """Opens the picker that shows the present option and clicks on another, where the screen shows them. To a screen
-        reader a picker bears the name of its option; the label beside it is a relation."""
-        self.click_on(until(f"a picker shows {present!r}", lambda: self.program.nodes("combo box", present))[0])
-        self.click_on(until(f"the option {option!r}", lambda: [
-            node for node in self.program.nodes(name=option) if node.role in ("list item", "table cell", "menu item")])[0])
+    def choose(self, picker, option):
+        """Opens the picker and clicks on the option, where the screen shows them."""
+        self.click_on(until(f"the picker {picker!r} is on the screen", lambda: next(
+            node for node in self.program.nodes("combo box") if picker in node.labels), passing=MISSING))
+        self.click_on(until(f"the option {option!r} is on the screen", lambda: next(
+            node for node in self.program.nodes("list item", option)), passing=MISSING))
 
     def click_on(self, node):
         x, y, width, height = node.extents

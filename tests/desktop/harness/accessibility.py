@@ -14,6 +14,8 @@ ROOT = "/org/a11y/atspi/accessible/root"
 NULL = "/org/a11y/atspi/null"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 
+LABELLED_BY = 2  # a kind of relation
+
 # Bits of the state set that the tests ask for.
 STATES = {"checked": 4, "enabled": 8, "focused": 12, "sensitive": 24, "showing": 25, "visible": 30}
 
@@ -58,6 +60,12 @@ class Node:
     def has(self, state):
         low, high = self._call(ACCESSIBLE, "GetState")
         return bool((low | high << 32) >> STATES[state] & 1)
+
+    @property
+    def labels(self):
+        """The texts of the labels that belong to this control. A combo box's own name is what is chosen in it."""
+        return [Node(self.bus, service, path).name for kind, targets in self._call(ACCESSIBLE, "GetRelationSet")
+                if kind == LABELLED_BY for service, path in targets]
 
     @property
     def extents(self):
