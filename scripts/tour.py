@@ -41,7 +41,7 @@ class Tour:
             self.failed.append(name)
             if not isinstance(error, (AssertionError, LookupError)):
                 traceback.print_exc()
-        picture = self.folder / f"{self.count}-{name.replace(' ', '-')}.png"
+        picture = self.folder / f"{self.count:02}-{name.replace(' ', '-')}.png"
         try:
             self.desktop.save_picture(picture)
         except Exception as error:
@@ -147,7 +147,7 @@ def main():
     program_path, folder = pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2]).resolve()
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
-    with Desktop(HOST) as desktop:
+    with Desktop(HOST, screen="1280x800x24") as desktop:
         desktop.clock.set(CLOCK)
         tour = Tour(desktop, desktop.start_program(program_path), folder)
         for name in ("label", "panel", "next day", "previous day", "today again", "copy", "settings", "night",
