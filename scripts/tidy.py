@@ -87,7 +87,8 @@ def run_tidy(place, file, options, extra=()):
     (place / "compile_commands.json").write_text(json.dumps([
         {"directory": str(place), "file": str(file), "command": shlex.join([*options, "-c", str(file)])}]))
     done = subprocess.run(
-        [TIDY, "--quiet", "-p", str(place), f"--header-filter={HEADERS}", "--extra-arg=-Wno-unknown-warning-option", *extra, str(file)],
+        [TIDY, "--quiet", "-p", str(place), f"--header-filter={HEADERS}", "--extra-arg=-Wno-unknown-warning-option",
+         *extra, str(file)],
         stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
     told = "\n".join(line for line in done.stdout.splitlines() if not line.endswith("warnings generated."))
     return told.strip() or f"status {done.returncode}" if done.returncode else ""
@@ -144,7 +145,8 @@ def main():
             todo.append(Source(name, options[path], stamp))
 
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        findings = [found for result in pool.map(lambda group: judge(group, stamps), groups_of(todo)) for found in result]
+        results = list(pool.map(lambda group: judge(group, stamps), groups_of(todo)))
+    findings = [found for result in results for found in result]
     for found in findings:
         print(found)
     for name in uncompiled:
