@@ -40,7 +40,7 @@ constexpr char32_t zeroWidthJoiner = 0x200D;
 
 /// The font without its fallbacks where it has every letter of the text: to look for fallbacks that nothing
 /// needs takes a good part of the time in which the panel opens.
-QFont sufficient(QFont font, const QString& text) {
+QFont sufficient(const QFont& font, const QString& text) {
     QFont alone = font;
     alone.setStyleStrategy(QFont::NoFontMerging);
     const QFontMetricsF metrics(alone);
