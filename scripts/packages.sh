@@ -20,8 +20,11 @@ packages_of() {
         ;;
     test) # what ./check asks for beyond that
         echo libgtest-dev libgmock-dev libbenchmark-dev clang-format-14 clang-tidy-14 ccache
-        echo desktop-file-utils appstream libxml2-utils man-db groff-base shellcheck
+        echo desktop-file-utils appstream libxml2-utils man-db groff-base mandoc shellcheck
         echo pulseaudio pulseaudio-utils sox ffmpeg
+        ;;
+    package) # a Debian package and its critic
+        echo dpkg-dev binutils xz-utils gzip lintian
         ;;
     bars) # the bars that are quick to install
         echo tint2 i3-wm mate-panel lxqt-panel polybar
