@@ -5,6 +5,7 @@
 #include "ui/settings/SettingsView.h"
 
 #include <QCoreApplication>
+#include <QCursor>
 
 namespace tambrelle {
 
@@ -37,6 +38,10 @@ PanelWindow& TambrelleApp::panelWindow() {
         connect(view, &MenuBarView::quitRequested, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     }
     return *panel;
+}
+
+void TambrelleApp::showPanel() {
+    panelWindow().present(QCursor::pos());
 }
 
 void TambrelleApp::openSettings() {

@@ -26,9 +26,12 @@ public:
     explicit TambrelleApp(const Platform& platform);
     ~TambrelleApp() override;
 
+    /// Opens the panel by the pointer, for a request that comes from elsewhere than the item.
+    void showPanel();
+    void openSettings();
+
 private:
     [[nodiscard]] PanelWindow& panelWindow();
-    void openSettings();
 
     Platform platform;
     SoundManager sound;

@@ -34,6 +34,9 @@ int main(int argc, char** argv) {
         QObject::connect(&item, &StatusItem::activated, &application, preferEmojiFont);
         QObject::connect(&item, &StatusItem::preferencesRequested, &application, preferEmojiFont);
         tambrelle.emplace(platform->ports());
+        QObject::connect(&service, &ApplicationService::activated, &*tambrelle, &TambrelleApp::showPanel);
+        QObject::connect(&service, &ApplicationService::preferencesRequested, &*tambrelle,
+                         &TambrelleApp::openSettings);
     });
     QObject::connect(&service, &ApplicationService::deferred, &application, &QCoreApplication::quit);
     QObject::connect(&service, &ApplicationService::quitRequested, &application, &QCoreApplication::quit);

@@ -36,6 +36,11 @@ void PanelWindow::toggle(QPoint click) {
         open(click);
 }
 
+void PanelWindow::present(QPoint place) {
+    if (!isVisible())
+        open(place);
+}
+
 void PanelWindow::open(QPoint click) {
     lastClick = click;
     view->refresh();

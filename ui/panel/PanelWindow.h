@@ -17,6 +17,8 @@ public:
 
     /// Opens at the click, or closes when it is open.
     void toggle(QPoint click);
+    /// Opens there, unless it is open.
+    void present(QPoint place);
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
