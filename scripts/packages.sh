@@ -21,7 +21,7 @@ packages_of() {
     test) # what ./check asks for beyond that
         echo libgtest-dev libgmock-dev libbenchmark-dev clang-format-14 clang-tidy-14 ccache
         echo desktop-file-utils appstream libxml2-utils man-db groff-base mandoc shellcheck
-        echo pulseaudio pulseaudio-utils sox ffmpeg
+        echo pulseaudio pulseaudio-utils sox ffmpeg strace binutils
         ;;
     package) # a Debian package and its critic
         echo dpkg-dev binutils xz-utils gzip lintian

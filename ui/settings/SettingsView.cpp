@@ -81,7 +81,7 @@ SettingsView::SettingsView(const SettingsServices& services, QWidget* parent)
       chimes(new ToggleRow(QStringLiteral("Hourly chimes (La Marseillaise)"))) {
     setWindowTitle(QStringLiteral("Tambrelle"));
     reminder->setDisplayFormat(timePattern(QLocale()));
-    launchAtLogin->setChecked(services.loginItem.isEnabled());
+    launchAtLogin->showState(services.loginItem.isEnabled());
     layOutForm();
     connectControls();
     refresher.observe(services.manager);
@@ -115,15 +115,15 @@ void SettingsView::layOutForm() {
 }
 
 void SettingsView::connectControls() {
-    connect(launchAtLogin, &ToggleRow::clicked, this, &SettingsView::setLaunchAtLogin);
+    connect(launchAtLogin, &ToggleRow::toggled, this, &SettingsView::setLaunchAtLogin);
     connect(theme, &QComboBox::currentIndexChanged, this,
             [this] { services.manager.setTheme(chosen<AppTheme>(*theme)); });
     connect(format, &QComboBox::currentIndexChanged, this,
             [this] { services.manager.setMenuBarFormat(chosen<MenuBarFormat>(*format)); });
-    connect(reminds, &ToggleRow::clicked, this,
+    connect(reminds, &ToggleRow::toggled, this,
             [this](bool checked) { services.notifications.setEnabled(checked); });
     connect(reminder, &QTimeEdit::timeChanged, this, &SettingsView::setReminderTime);
-    connect(chimes, &ToggleRow::clicked, this,
+    connect(chimes, &ToggleRow::toggled, this,
             [this](bool checked) { services.sound.setSoundEnabled(checked); });
 }
 
@@ -148,18 +148,18 @@ void SettingsView::refresh() {
     shown = now;
     choose(*theme, static_cast<int>(now.theme));
     choose(*format, static_cast<int>(now.format));
-    reminds->setChecked(now.reminds);
+    reminds->showState(now.reminds);
     reminderRow->setVisible(now.reminds);
     {
         const QSignalBlocker blocker(reminder);
         reminder->setTime(now.reminder);
     }
-    chimes->setChecked(now.chimes);
+    chimes->showState(now.chimes);
 }
 
 void SettingsView::setLaunchAtLogin(bool enabled) {
     if (!services.loginItem.setEnabled(enabled))
-        launchAtLogin->setChecked(services.loginItem.isEnabled());
+        launchAtLogin->showState(services.loginItem.isEnabled());
 }
 
 void SettingsView::setReminderTime(QTime time) {

@@ -5,6 +5,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QStyle>
 
 #include <algorithm>
@@ -22,6 +23,11 @@ constexpr double focusDistance = 2;
 ToggleRow::ToggleRow(const QString& label, QWidget* parent) : QCheckBox(label, parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAttribute(Qt::WA_Hover);
+}
+
+void ToggleRow::showState(bool on) {
+    const QSignalBlocker blocker(this);
+    setChecked(on);
 }
 
 QSize ToggleRow::sizeHint() const {

@@ -12,6 +12,10 @@ class ToggleRow final : public QCheckBox {
 public:
     explicit ToggleRow(const QString& label, QWidget* parent = nullptr);
 
+    /// Shows a state that the user has not chosen just now: toggled() stays silent. A wish of the user's
+    /// emits it, by whatever way it comes: a screen reader toggles without a click.
+    void showState(bool on);
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
