@@ -33,7 +33,7 @@ PanelWindow& TambrelleApp::panelWindow() {
                                       .sound = sound,
                                       .clock = platform.clock,
                                       .resources = platform.resources});
-        panel = std::make_unique<PanelWindow>(view);
+        panel = std::make_unique<PanelWindow>(view, platform.popover);
         connect(view, &MenuBarView::settingsRequested, this, &TambrelleApp::openSettings);
         connect(view, &MenuBarView::quitRequested, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     }
