@@ -4,12 +4,14 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source=$PWD
+commit=$(git -c safe.directory="$source" rev-parse HEAD)
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
 export CCACHE_DISABLE=1
 for folder in "$scratch/a" "$scratch/a-second-and-longer/place"; do
     git -c safe.directory="$source" clone -q --no-hardlinks "$source" "$folder"
+    git -C "$folder" -c advice.detachedHead=false checkout -q "$commit"
     (cd "$folder" && ./package)
 done
 first=$(cd "$scratch/a" && sha256sum build/package/*.deb)
