@@ -55,8 +55,8 @@ class Hardened:
 
     @unittest.skipUnless(is_x86_64, "another processor's protection has another name")
     def test_mark_where_jumps_may_land(self):
-        # The C library's start files have no marks in every distribution, so the linker drops the note of the whole;
-        # ours still begin with one wherever a pointer may lead: more of them than there are virtual tables.
+        # Not every distribution's C library marks its start files, and then the linker drops the note about the whole.
+        # Functions of ours begin with a mark all the same, but for those that nothing can point at.
         text = re.search(r"\.text +PROGBITS +\w+ (\w+) (\w+)", self.readelf("-S"))
         offset, size = (int(number, 16) for number in text.groups())
         code = self.file.read_bytes()[offset:offset + size]
