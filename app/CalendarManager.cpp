@@ -71,8 +71,7 @@ void CalendarManager::startTimer() {
 
 void CalendarManager::update() {
     const Instant now = services.clock.now();
-    const RevolutionaryDate newDate = RevolutionaryCalendar::fromGregorian(now);
-    const DecimalTime newTime = RevolutionaryCalendar::toDecimalTime(now);
+    const auto [newDate, newTime] = RevolutionaryCalendar::toMoment(now);
     followDayChange(newDate);
     chimeOnHourChange(newTime.hours);
     rotateSlogan(now);

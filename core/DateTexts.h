@@ -11,8 +11,8 @@ namespace tambrelle {
 /// Decimal hours and minutes as every text shows them: "7:05". Seconds are never shown.
 std::string timeText(const DecimalTime& time);
 
-/// The line in the bar, such as "🌫️ 23 Brumaire · Tridi · 5:00". A date outside the calendar stops the
-/// program.
+/// The line in the bar, such as "🌫️ 23 Brumaire · Tridi · 5:00".
+/// A date outside the calendar stops the program.
 std::string menuBarText(const RevolutionaryDate& today, const DecimalTime& time, MenuBarFormat format);
 
 /// The one line that is copied for others to read: the viewed day with the present decimal time, such as

@@ -44,12 +44,18 @@ std::optional<WallSeconds> wallSecondsAt(UnixSeconds at) {
     return wallSeconds(*civil);
 }
 
-UnixSeconds wholeSeconds(Instant instant) {
-    return std::chrono::floor<std::chrono::seconds>(instant).time_since_epoch().count();
+// Never negative. std::chrono::floor would overflow at the earliest instants, whose second began before them.
+Instant::duration fractionOfSecond(Instant instant) {
+    constexpr Instant::duration second = std::chrono::seconds{1};
+    const auto remainder = instant.time_since_epoch() % second;
+    return remainder < Instant::duration::zero() ? remainder + second : remainder;
 }
 
-Instant::duration fractionOfSecond(Instant instant) {
-    return instant - std::chrono::floor<std::chrono::seconds>(instant);
+UnixSeconds wholeSeconds(Instant instant) {
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(instant.time_since_epoch()).count();
+    const bool isCutUpwards =
+        instant.time_since_epoch() % std::chrono::seconds{1} < Instant::duration::zero();
+    return isCutUpwards ? seconds - 1 : seconds;
 }
 
 std::optional<Instant> makeInstant(UnixSeconds seconds, Instant::duration fraction) {
@@ -67,46 +73,63 @@ struct Resolution {
     std::optional<UnixSeconds> shiftedBySkip; // as if the offset from before the skip went on
 };
 
-// Within (early, late] the offset changes once, from the given one; when?
-UnixSeconds offsetChange(UnixSeconds early, UnixSeconds late, std::int64_t offsetBefore) {
+// What the wall clock is ahead of universal time, leap seconds included where the zone data counts them.
+std::optional<std::int64_t> offsetAt(UnixSeconds at) {
+    const auto wall = wallSecondsAt(at);
+    if (!wall)
+        return std::nullopt;
+    return *wall - at;
+}
+
+// The first second of the new offset where the offset changes once within (early, late].
+UnixSeconds changeOfOffset(UnixSeconds early, UnixSeconds late) {
+    const auto offsetBefore = offsetAt(early);
     while (late - early > 1) {
         const UnixSeconds middle = early + (late - early) / 2;
-        const auto wall = wallSecondsAt(middle);
-        if (wall && *wall - middle == offsetBefore)
-            early = middle;
-        else
-            late = middle;
+        (offsetAt(middle) == offsetBefore ? early : late) = middle;
     }
     return late;
 }
 
-// The C library answers only in the direction from an instant to the wall clock. No offset exceeds 26 hours
-// and no offset lasts less than an hour, so every offset that counts is met on a walk by the hour.
+// The C library answers only in the direction from an instant to the wall clock. So we walk over all instants
+// at which the wall clock can show the target (no offset reaches 30 hours), in steps shorter than any offset
+// has ever lasted (the shortest lasted for four days), and try each offset that we meet. Absent beyond the C
+// library's range.
 std::optional<Resolution> resolve(WallSeconds target) {
-    constexpr std::int64_t farthestOffset = 26 * 3600;
-    constexpr std::int64_t step = 3600;
+    constexpr std::int64_t farthestOffset = std::int64_t{30} * 3600;
+    constexpr std::int64_t step = std::int64_t{6} * 3600;
 
     Resolution found;
-    std::optional<std::int64_t> previousOffset;
-    for (UnixSeconds at = target - farthestOffset; at <= target + farthestOffset; at += step) {
-        const auto wall = wallSecondsAt(at);
-        if (!wall)
-            return std::nullopt;
-        const std::int64_t offset = *wall - at;
-        if (previousOffset == offset)
-            continue;
-        if (previousOffset) {
-            const UnixSeconds change = offsetChange(at - step, at, *previousOffset);
-            const bool skipped = change + *previousOffset <= target && target < change + offset;
-            if (skipped && !found.afterSkip) {
-                found.afterSkip = change;
-                found.shiftedBySkip = target - *previousOffset;
-            }
-        }
+    const auto tryOffset = [&found, target](std::int64_t offset) {
         const UnixSeconds candidate = target - offset;
         if (wallSecondsAt(candidate) == target && (!found.first || candidate < *found.first))
             found.first = candidate;
-        previousOffset = offset;
+    };
+
+    UnixSeconds at = target - farthestOffset;
+    auto offset = offsetAt(at);
+    if (!offset)
+        return std::nullopt;
+    tryOffset(*offset);
+    while (at < target + farthestOffset) {
+        const UnixSeconds ahead = at + step;
+        const auto offsetAhead = offsetAt(ahead);
+        if (!offsetAhead)
+            return std::nullopt;
+        if (offsetAhead == offset) {
+            at = ahead;
+            continue;
+        }
+        at = changeOfOffset(at, ahead);
+        const std::int64_t offsetBefore = *offset;
+        offset = offsetAt(at);
+        if (!offset)
+            return std::nullopt;
+        if (at + offsetBefore <= target && target < at + *offset) {
+            found.afterSkip = at;
+            found.shiftedBySkip = target - offsetBefore;
+        }
+        tryOffset(*offset);
     }
     return found;
 }
@@ -157,8 +180,7 @@ std::optional<std::int64_t> daysBetween(Instant from, Instant to) {
     const auto wallTo = wallSecondsAt(wholeSeconds(to));
     if (!wallFrom || !wallTo)
         return std::nullopt;
-    // Counted in microseconds the span could overflow: whole seconds first, then the fraction that may be
-    // missing.
+    // In microseconds the span could overflow: whole seconds first, then the fraction that may be missing.
     std::int64_t seconds = *wallTo - *wallFrom;
     const auto fraction = fractionOfSecond(to) - fractionOfSecond(from);
     if (seconds > 0 && fraction < Instant::duration::zero())

@@ -7,8 +7,7 @@
 
 namespace tambrelle {
 
-/// What a wall clock and a wall calendar show: proleptic Gregorian, without a time zone and without
-/// fractions.
+/// What a wall clock and a wall calendar show: proleptic Gregorian, without time zone or fractions.
 struct CivilComponents {
     std::int64_t year;   ///< astronomical: 0 is 1 BC
     std::int64_t month;  ///< 1 to 12
@@ -21,8 +20,7 @@ struct CivilComponents {
 };
 
 /// The civil calendar in the system's current time zone. The zone is read again at each call, so that a
-/// change of TZ or of /etc/localtime counts at once. A TZ that names no zone means UTC, as the C library has
-/// it.
+/// change of TZ or of /etc/localtime counts at once. A TZ that names no zone means UTC.
 namespace GregorianCalendar {
 
 /// The wall clock at the instant; a fraction of a second is dropped towards the past, and a leap second,

@@ -15,8 +15,7 @@ constexpr char32_t lowerCaseScalar(char32_t value) {
         return value + 0x20;
     if (value == 0x178) // Ÿ, whose small letter is in Latin-1
         return 0xFF;
-    // In Latin Extended-A capitals and small letters alternate, with the capital on the even or on the odd
-    // place.
+    // In Latin Extended-A capitals and small letters alternate, the capital at the even or the odd place.
     if (isWithin(value, 0x100, 0x137) || isWithin(value, 0x14A, 0x177))
         return value | 1;
     if (isWithin(value, 0x139, 0x148) || isWithin(value, 0x179, 0x17E))

@@ -5,6 +5,7 @@
 #include "core/Precondition.h"
 
 #include <cstddef>
+#include <optional>
 
 namespace tambrelle::RevolutionaryCalendar {
 namespace {
@@ -39,14 +40,24 @@ constexpr std::array<RomanSymbol, 13> romanSymbols{{
     {1, "I"},
 }};
 
-} // namespace
-
-RevolutionaryDate fromGregorian(Instant instant) {
-    const auto civil = GregorianCalendar::components(instant);
+RevolutionaryDate dateOf(const std::optional<CivilComponents>& civil) {
     precondition(civil.has_value(), "an instant without a civil date");
     // The epoch is a midnight, so the whole days since then are those between the two civil dates, and the
     // one reading of the zone that gave the date is enough.
     return fromDayNumber(civilDayNumber(civil->year, civil->month, civil->day) - epochDayNumber);
+}
+
+DecimalTime timeOf(const std::optional<CivilComponents>& civil) {
+    constexpr std::int64_t decimalSecondsPerDay = 100'000;
+    const std::int64_t seconds = civil ? civil->hour * 3600 + civil->minute * 60 + civil->second : 0;
+    const std::int64_t decimalSeconds = seconds * decimalSecondsPerDay / secondsPerDay;
+    return {decimalSeconds / 10'000, decimalSeconds % 10'000 / 100, decimalSeconds % 100};
+}
+
+} // namespace
+
+RevolutionaryDate fromGregorian(Instant instant) {
+    return dateOf(GregorianCalendar::components(instant));
 }
 
 RevolutionaryDate fromDayNumber(std::int64_t daysSinceEpoch) {
@@ -74,11 +85,12 @@ RevolutionaryDate fromDayNumber(std::int64_t daysSinceEpoch) {
 }
 
 DecimalTime toDecimalTime(Instant instant) {
-    constexpr std::int64_t decimalSecondsPerDay = 100'000;
+    return timeOf(GregorianCalendar::components(instant));
+}
+
+RevolutionaryMoment toMoment(Instant instant) {
     const auto civil = GregorianCalendar::components(instant);
-    const std::int64_t seconds = civil ? civil->hour * 3600 + civil->minute * 60 + civil->second : 0;
-    const std::int64_t decimalSeconds = seconds * decimalSecondsPerDay / secondsPerDay;
-    return {decimalSeconds / 10'000, decimalSeconds % 10'000 / 100, decimalSeconds % 100};
+    return {dateOf(civil), timeOf(civil)};
 }
 
 std::string toRoman(std::int64_t value) {

@@ -11,6 +11,14 @@
 
 namespace tambrelle {
 
+/// The present by the Republican calendar: the day, and the time of that day.
+struct RevolutionaryMoment {
+    RevolutionaryDate date;
+    DecimalTime time;
+
+    bool operator==(const RevolutionaryMoment&) const = default;
+};
+
 /// The Republican calendar by its arithmetic rule: year 1 begins on 22 September 1792 and every fourth year
 /// from year 3 on has 366 days, without exception for centuries. A day begins at local midnight.
 namespace RevolutionaryCalendar {
@@ -19,13 +27,15 @@ namespace RevolutionaryCalendar {
 /// the epoch gives the epoch's own date, 1 Vendémiaire of year 1.
 RevolutionaryDate fromGregorian(Instant instant);
 
-/// The Republican day that lies this many whole days after the epoch; a negative count gives the epoch's own
-/// date.
+/// The Republican day that lies this many days after the epoch; a negative count gives the epoch's date.
 RevolutionaryDate fromDayNumber(std::int64_t daysSinceEpoch);
 
 /// The decimal time of day at the instant, by the wall clock of the system's time zone; fractions of a
 /// standard second are dropped. The greatest result is 9:99:98.
 DecimalTime toDecimalTime(Instant instant);
+
+/// Both of the above from one reading of the zone, which is most of what either costs.
+RevolutionaryMoment toMoment(Instant instant);
 
 /// The number in Roman numerals, with as many M as it takes; empty for zero and below.
 std::string toRoman(std::int64_t value);
@@ -56,8 +66,8 @@ inline constexpr std::array<std::string_view, 10> dayNames{
     "Primidi", "Duodi", "Tridi", "Quartidi", "Quintidi", "Sextidi", "Septidi", "Octidi", "Nonidi", "Décadi",
 };
 
-/// The festivals of the complementary days; the index is the day of month 13 less 1. The sixth is a leap
-/// year's.
+/// The festivals of the complementary days; the index is the day of month 13 less 1.
+/// The sixth exists only in a year of 366 days.
 inline constexpr std::array<std::string_view, 6> sansculottidesNames{
     "La Fête de la Vertu",  "La Fête du Génie",        "La Fête du Travail",
     "La Fête de l'Opinion", "La Fête des Récompenses", "La Fête de la Révolution",

@@ -4,6 +4,7 @@
 #include "platform/AudioPlayer.h"
 #include "platform/Clock.h"
 #include "platform/LoginItem.h"
+#include "platform/PopoverKind.h"
 #include "platform/RepeatingTimer.h"
 #include "platform/ResourceBundle.h"
 #include "platform/StatusItem.h"
@@ -25,6 +26,7 @@ struct Platform {
     UserNotificationCenter& notifications;
     LoginItem& loginItem;
     StatusItem& statusItem;
+    PopoverKind popover = PopoverKind::grabbing;
 };
 
 } // namespace tambrelle

@@ -1,28 +1,57 @@
 #include "player/Playback.h"
 
-#include <QAudioDevice>
-#include <QUrl>
+#include <algorithm>
+#include <chrono>
+#include <memory>
+#include <thread>
+
+#include <pulse/simple.h>
 
 namespace tambrelle {
 
-Playback::Playback(const QString& file, float volume) {
-    output.setVolume(volume);
-    player.setAudioOutput(&output);
-    connect(&player, &QMediaPlayer::errorOccurred, this,
-            [this](QMediaPlayer::Error, const QString& text) { emit failed(text); });
-    connect(&player, &QMediaPlayer::mediaStatusChanged, this, [this](QMediaPlayer::MediaStatus status) {
-        if (status == QMediaPlayer::EndOfMedia)
-            emit ended();
-    });
-    player.setSource(QUrl::fromLocalFile(file));
+namespace {
+
+using namespace std::chrono_literals;
+
+/// How much is handed over at once: how soon a request to stop is seen.
+constexpr std::size_t portion = std::size_t{Sound::rate} * Sound::channels / 20;
+
+/// How much the server keeps in store: enough for a busy machine, little enough to fall silent at once.
+constexpr std::uint32_t storedBytes = Sound::rate * Sound::channels * sizeof(float) / 4;
+
+/// A server may still be handing the last samples on, out of memory that goes when this process does.
+constexpr auto farewell = 300ms;
+
+using Server = std::unique_ptr<pa_simple, decltype(&pa_simple_free)>;
+
+Server connect() {
+    const pa_sample_spec format{PA_SAMPLE_FLOAT32NE, Sound::rate, Sound::channels};
+    constexpr auto serversChoice = static_cast<std::uint32_t>(-1);
+    const pa_buffer_attr buffer{serversChoice, storedBytes, serversChoice, serversChoice, serversChoice};
+    return {pa_simple_new(nullptr, "Tambrelle", PA_STREAM_PLAYBACK, nullptr, "La Marseillaise", &format,
+                          nullptr, &buffer, nullptr),
+            &pa_simple_free};
 }
 
-void Playback::start() {
-    if (output.device().isNull()) {
-        emit ended();
+} // namespace
+
+void play(const Sound& sound, double volume, const std::function<bool()>& stop) {
+    const Server server = connect();
+    if (!server)
         return;
+    std::vector<float> samples = sound.samples;
+    std::ranges::transform(samples, samples.begin(),
+                           [gain = static_cast<float>(volume)](float sample) { return sample * gain; });
+    for (std::size_t at = 0; at < samples.size() && !stop(); at += portion) {
+        const std::size_t count = std::min(portion, samples.size() - at);
+        if (pa_simple_write(server.get(), &samples[at], count * sizeof(float), nullptr) < 0)
+            return;
     }
-    player.play();
+    if (stop())
+        pa_simple_flush(server.get(), nullptr);
+    else
+        pa_simple_drain(server.get(), nullptr);
+    std::this_thread::sleep_for(farewell);
 }
 
 } // namespace tambrelle

@@ -1,29 +1,14 @@
 #pragma once
 
-#include <QAudioOutput>
-#include <QMediaPlayer>
-#include <QObject>
+#include "player/Sound.h"
+
+#include <functional>
 
 namespace tambrelle {
 
-/// Plays a file once to the default output of the sound server.
-class Playback : public QObject {
-    Q_OBJECT
-
-public:
-    /// `volume` is linear, 0 to 1 of the file's own level. May block for as long as the sound server does.
-    Playback(const QString& file, float volume);
-
-    /// Ends in one of the two signals; `ended` also where there is nothing to play to.
-    void start();
-
-signals:
-    void ended();
-    void failed(const QString& reason);
-
-private:
-    QMediaPlayer player;
-    QAudioOutput output;
-};
+/// Plays a sound once to the default output of the sound server, and returns when it has been heard, when
+/// `stop` says so, or at once when there is no server. `volume` is linear, 0 to 1 of the sound's own level.
+/// Blocks for as long as the server does.
+void play(const Sound& sound, double volume, const std::function<bool()>& stop);
 
 } // namespace tambrelle

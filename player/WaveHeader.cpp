@@ -1,18 +1,16 @@
 #include "player/WaveHeader.h"
 
-#include <QByteArray>
-#include <QtEndian>
-
 namespace tambrelle {
 
-bool promisesMoreThanFile(const QByteArray& header, long long fileSize) {
-    constexpr qsizetype sizeOffset = 4;
-    constexpr quint32 preamble = 8;              // "RIFF" and the size itself, which the size does not count
-    constexpr quint32 unknownSize = 0xFFFF'FFFF; // written by programs that stream
-    if (!header.startsWith("RIFF") || header.size() < sizeOffset + qsizetype{4})
+bool promisesMoreThanFile(std::string_view header, std::uintmax_t fileSize) {
+    constexpr std::size_t preamble = 8;                // the name and the size, which the size does not count
+    constexpr std::uint32_t unknownSize = 0xFFFF'FFFF; // written by programs that stream
+    if (header.size() < waveHeaderSize || !header.starts_with("RIFF"))
         return false;
-    const auto size = qFromLittleEndian<quint32>(header.constData() + sizeOffset);
-    return size != unknownSize && static_cast<long long>(size) + preamble > fileSize;
+    std::uint32_t size = 0;
+    for (std::size_t i = preamble; i-- > preamble / 2;)
+        size = (size << 8U) | static_cast<unsigned char>(header[i]);
+    return size != unknownSize && std::uintmax_t{size} + preamble > fileSize;
 }
 
 } // namespace tambrelle

@@ -1,24 +1,21 @@
-// tambrelle-player VOLUME FILE: plays one sound file (mp3, m4a or wav) at VOLUME (0 to 1 of the file's own
-// level) and ends with it. Status 1 and one line on standard error when the file can't be opened or decoded,
-// 2 when called wrongly, else 0: a sound server that is absent or hangs is no fault of the file.
+// tambrelle-player VOLUME FILE: plays one sound file (mp3, m4a, wav and what else the libraries know) at
+// VOLUME (0 to 1 of the file's own level) and ends with it. Status 1 and one line on standard error when the
+// file can't be opened or decoded, 2 when called wrongly, else 0: a sound server that is absent or hangs is
+// no fault of the file.
 
 #include "player/Deadline.h"
 #include "player/Playback.h"
-#include "player/SoundCheck.h"
+#include "player/SoundFile.h"
+#include "player/Termination.h"
 
-#include <QCoreApplication>
-#include <QFile>
-
-#include <algorithm>
+#include <charconv>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 #include <optional>
+#include <string_view>
 
-#include <fcntl.h>
 #include <sys/prctl.h>
-#include <unistd.h>
 
 namespace {
 
@@ -30,35 +27,16 @@ constexpr int usageError = 2;
 /// For what comes before the first sound, and for a sound server that is late with the last one.
 constexpr auto patience = 8s;
 
-/// The media libraries chatter on standard error, which is for one line of ours: they get the void instead.
-class Complaint {
-public:
-    Complaint() : descriptor(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1)) {
-        const int nothing = open("/dev/null", O_WRONLY | O_CLOEXEC);
-        dup2(nothing, STDERR_FILENO);
-        close(nothing);
-    }
-
-    void say(const QString& reason) const { dprintf(descriptor, "%s\n", reason.toLocal8Bit().constData()); }
-
-private:
-    int descriptor;
-};
-
-std::optional<float> volumeFrom(const char* text) {
-    bool isNumber = false;
-    const float volume = QByteArray(text).toFloat(&isNumber);
+/// Locale-independent; absent for what is no number from 0 to 1.
+std::optional<double> volumeFrom(std::string_view text) {
+    double volume = -1;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), volume);
+    const bool isNumber = error == std::errc() && end == text.data() + text.size();
     return isNumber && volume >= 0 && volume <= 1 ? std::optional(volume) : std::nullopt;
 }
 
-/// The backend that plays all three formats without further packages, where the toolkit has it.
-void preferBackend() {
-    const QStringList folders = QCoreApplication::libraryPaths();
-    const bool present = std::any_of(folders.begin(), folders.end(), [](const QString& folder) {
-        return QFile::exists(folder + QStringLiteral("/multimedia/libffmpegmediaplugin.so"));
-    });
-    if (present && !qEnvironmentVariableIsSet("QT_MEDIA_BACKEND"))
-        qputenv("QT_MEDIA_BACKEND", "ffmpeg");
+std::chrono::milliseconds lengthOf(const Sound& sound) {
+    return std::chrono::milliseconds(1000 * sound.samples.size() / (Sound::rate * Sound::channels));
 }
 
 } // namespace
@@ -69,30 +47,18 @@ int main(int argc, char** argv) {
         std::fputs("usage: tambrelle-player VOLUME FILE\n", stderr);
         return usageError;
     }
+    takeTerminationAsARequest();
     // The chime is the calendar's and ends with it.
     prctl(PR_SET_PDEATHSIG, SIGTERM);
     endProcessAfter(patience);
-    const Complaint complaint;
-    const QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("Tambrelle")); // the sound server's mixer shows it
-    preferBackend();
-
-    const QString file = QFile::decodeName(argv[2]);
-    const auto fail = [&complaint, &file](const QString& reason) {
-        complaint.say(file + QStringLiteral(": ") + reason);
-        // Tearing the backend down can block on the sound server, and there is nothing to keep.
-        std::_Exit(EXIT_FAILURE);
-    };
-    std::unique_ptr<Playback> playback;
-    SoundCheck check(file);
-    QObject::connect(&check, &SoundCheck::failed, &check, fail);
-    QObject::connect(&check, &SoundCheck::passed, &check, [&](std::chrono::milliseconds length) {
-        endProcessAfter(length + patience);
-        playback = std::make_unique<Playback>(file, *volume);
-        QObject::connect(playback.get(), &Playback::failed, &check, fail);
-        QObject::connect(playback.get(), &Playback::ended, &check, [] { std::_Exit(EXIT_SUCCESS); });
-        playback->start();
-    });
-    QMetaObject::invokeMethod(&check, &SoundCheck::start, Qt::QueuedConnection);
-    return QCoreApplication::exec();
+    try {
+        const Sound sound = readSoundFile(argv[2]);
+        endProcessAfter(lengthOf(sound) + patience);
+        if (!terminationRequested())
+            play(sound, *volume, terminationRequested);
+        return EXIT_SUCCESS;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s: %s\n", argv[2], error.what());
+        return EXIT_FAILURE;
+    }
 }

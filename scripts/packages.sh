@@ -8,8 +8,9 @@ packages_of() {
     case $1 in
     build) # compiler, build tools, libraries, and what the built program needs at run time
         echo g++ cmake ninja-build pkg-config ca-certificates git
-        echo qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' qt6-multimedia-dev libxcb1-dev zlib1g-dev
-        echo qt6-wayland qt6-qpa-plugins 'libqt6svg6|libqt6svg6t64' gstreamer1.0-plugins-good gstreamer1.0-libav
+        echo qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' libxcb1-dev zlib1g-dev
+        echo libavformat-dev libavcodec-dev libavutil-dev libswresample-dev libpulse-dev
+        echo qt6-wayland qt6-qpa-plugins 'libqt6svg6|libqt6svg6t64'
         echo fonts-dejavu-core fonts-noto-color-emoji tzdata
         ;;
     desktop) # a private desktop: display, bus, window manager, a light bar, the hands and eyes of the tests
@@ -19,8 +20,11 @@ packages_of() {
         ;;
     test) # what ./check asks for beyond that
         echo libgtest-dev libgmock-dev libbenchmark-dev clang-format-14 clang-tidy-14 ccache
-        echo desktop-file-utils appstream libxml2-utils man-db groff-base shellcheck
-        echo pulseaudio pulseaudio-utils sox ffmpeg
+        echo desktop-file-utils appstream libxml2-utils man-db groff-base mandoc shellcheck
+        echo pulseaudio pulseaudio-utils sox ffmpeg strace binutils
+        ;;
+    package) # a Debian package and its critic
+        echo dpkg-dev binutils xz-utils gzip lintian
         ;;
     bars) # the bars that are quick to install
         echo tint2 i3-wm mate-panel lxqt-panel polybar

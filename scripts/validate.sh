@@ -21,6 +21,7 @@ while IFS= read -r file; do
     *.[1-8])
         warnings=$(man --warnings -E UTF-8 -l -Tutf8 -Z "$file" 2>&1 >/dev/null)
         [ -z "$warnings" ] || complain "$file: $warnings"
+        mandoc -T lint -W style "$file" || complain "$file is no clean manual page"
         ;;
     esac
 done < <(tracked '*.desktop' '*.metainfo.xml' '*.svg' '*.xml' '*.qrc' '*.[1-8]')

@@ -18,6 +18,11 @@ QString mediumDatePattern(const QLocale& locale) {
     return pattern.replace(QStringLiteral("MMMM"), QStringLiteral("MMM")).trimmed();
 }
 
+QString timePattern(const QLocale& locale) {
+    // The C locale's short time alone has seconds.
+    return locale.timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss"));
+}
+
 QString civilDateText(Instant instant, const QLocale& locale) {
     const auto components = GregorianCalendar::components(instant);
     if (!components)
@@ -34,8 +39,7 @@ QString civilTimeText(Instant instant, const QLocale& locale) {
     if (!components)
         return {};
     const QTime time(static_cast<int>(components->hour), static_cast<int>(components->minute));
-    // The C locale's short time alone has seconds.
-    return locale.toString(time, locale.timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss")));
+    return locale.toString(time, timePattern(locale));
 }
 
 } // namespace tambrelle

@@ -14,6 +14,9 @@ namespace tambrelle {
 /// Hour and minute as the locale writes them; empty likewise.
 [[nodiscard]] QString civilTimeText(Instant instant, const QLocale& locale);
 
+/// The locale's pattern of a time of day, without seconds.
+[[nodiscard]] QString timePattern(const QLocale& locale);
+
 /// The locale's pattern of a long date with the weekday taken out and the month's name shortened.
 [[nodiscard]] QString mediumDatePattern(const QLocale& locale);
 

@@ -16,7 +16,8 @@ MenuBarLabel::Inputs MenuBarLabel::inputs() const {
 }
 
 void MenuBarLabel::refresh() {
-    // Most ticks pass within a decimal minute; building the text only to find it unchanged is most of their cost.
+    // Most ticks pass within a decimal minute; building the text only to find it unchanged is most of their
+    // cost.
     const Inputs next = inputs();
     if (next == builtFrom)
         return;

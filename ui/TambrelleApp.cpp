@@ -2,8 +2,10 @@
 
 #include "ui/panel/MenuBarView.h"
 #include "ui/panel/PanelWindow.h"
+#include "ui/settings/SettingsView.h"
 
 #include <QCoreApplication>
+#include <QCursor>
 
 namespace tambrelle {
 
@@ -16,11 +18,14 @@ TambrelleApp::TambrelleApp(const Platform& platform)
       label(calendarManager, platform.statusItem) {
     connect(&platform.statusItem, &StatusItem::activated, this,
             [this](QPoint position) { panelWindow().toggle(position); });
+    connect(&platform.statusItem, &StatusItem::preferencesRequested, this, &TambrelleApp::openSettings);
     connect(&platform.statusItem, &StatusItem::quitRequested, qApp, &QCoreApplication::quit,
             Qt::QueuedConnection);
 }
 
-TambrelleApp::~TambrelleApp() = default;
+TambrelleApp::~TambrelleApp() {
+    delete settings;
+}
 
 PanelWindow& TambrelleApp::panelWindow() {
     if (!panel) {
@@ -28,10 +33,30 @@ PanelWindow& TambrelleApp::panelWindow() {
                                       .sound = sound,
                                       .clock = platform.clock,
                                       .resources = platform.resources});
-        panel = std::make_unique<PanelWindow>(view);
+        panel = std::make_unique<PanelWindow>(view, platform.popover);
+        connect(view, &MenuBarView::settingsRequested, this, &TambrelleApp::openSettings);
         connect(view, &MenuBarView::quitRequested, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     }
     return *panel;
+}
+
+void TambrelleApp::showPanel() {
+    panelWindow().present(QCursor::pos());
+}
+
+void TambrelleApp::openSettings() {
+    if (panel)
+        panel->close();
+    if (!settings) {
+        settings = new SettingsView({.manager = calendarManager,
+                                     .notifications = notifications,
+                                     .sound = sound,
+                                     .loginItem = platform.loginItem,
+                                     .clock = platform.clock});
+        // Nothing of it stays in memory, and the next window reads the login item anew.
+        settings->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    settings->present();
 }
 
 } // namespace tambrelle

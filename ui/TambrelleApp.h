@@ -7,12 +7,14 @@
 #include "ui/MenuBarLabel.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
 
 namespace tambrelle {
 
 class PanelWindow;
+class SettingsView;
 
 /// The application: owns the one CalendarManager with its two services, and the two scenes, the item with its
 /// panel and the settings window.
@@ -24,6 +26,10 @@ public:
     explicit TambrelleApp(const Platform& platform);
     ~TambrelleApp() override;
 
+    /// Opens the panel by the pointer, for a request that comes from elsewhere than the item.
+    void showPanel();
+    void openSettings();
+
 private:
     [[nodiscard]] PanelWindow& panelWindow();
 
@@ -33,6 +39,7 @@ private:
     CalendarManager calendarManager;
     MenuBarLabel label;
     std::unique_ptr<PanelWindow> panel; ///< made when it is first opened
+    QPointer<SettingsView> settings;    ///< while its window is open
 };
 
 } // namespace tambrelle

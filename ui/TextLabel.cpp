@@ -35,10 +35,27 @@ qreal naturalWidth(const QString& text, const QFont& font) {
     return QFontMetricsF(font).horizontalAdvance(text);
 }
 
+constexpr char32_t emojiPresentation = 0xFE0F;
+constexpr char32_t zeroWidthJoiner = 0x200D;
+
+/// The font without its fallbacks where it has every letter of the text: to look for fallbacks that nothing
+/// needs takes a good part of the time in which the panel opens.
+QFont sufficient(const QFont& font, const QString& text) {
+    QFont alone = font;
+    alone.setStyleStrategy(QFont::NoFontMerging);
+    const QFontMetricsF metrics(alone);
+    for (const char32_t letter : text.toUcs4()) {
+        const bool drawsNothing = letter == emojiPresentation || letter == zeroWidthJoiner;
+        if (!drawsNothing && !metrics.inFontUcs4(letter))
+            return font;
+    }
+    return alone;
+}
+
 } // namespace
 
 TextLabel::TextLabel(const TypeStyle& style, Ink ink, TextFit fit, QWidget* parent)
-    : QWidget(parent), typeStyle(style), textInk(ink), fit(fit), plainFont(tambrelle::font(style)) {
+    : QWidget(parent), typeStyle(style), textInk(ink), fit(fit) {
     installTextAccessibility();
     const bool severalLines = fit.overflow == TextFit::Overflow::wrap && fit.lines != 1;
     QSizePolicy policy(QSizePolicy::Preferred, severalLines ? QSizePolicy::Preferred : QSizePolicy::Fixed);
@@ -51,6 +68,7 @@ void TextLabel::setText(const QString& text) {
         return;
     const QSize before = shownText.isEmpty() ? QSize() : sizeHint();
     shownText = text;
+    plainFont = sufficient(tambrelle::font(typeStyle), text);
     natural.width = current.width = -1;
     if (sizeHint() != before)
         updateGeometry();

@@ -23,14 +23,20 @@ int main(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tambrelle.Tambrelle"));
     QApplication::setQuitOnLastWindowClosed(false);
 
-    preferEmojiFont();
-
     ApplicationService service;
     std::optional<FreedesktopPlatform> platform;
     std::optional<TambrelleApp> tambrelle;
     QObject::connect(&service, &ApplicationService::claimed, &application, [&] {
         platform.emplace();
+        const StatusItem& item = platform->ports().statusItem;
+        // Before the application's own connections, and not at the start: to ask for fonts costs as much as
+        // the rest of it, and the bar's line names its own.
+        QObject::connect(&item, &StatusItem::activated, &application, preferEmojiFont);
+        QObject::connect(&item, &StatusItem::preferencesRequested, &application, preferEmojiFont);
         tambrelle.emplace(platform->ports());
+        QObject::connect(&service, &ApplicationService::activated, &*tambrelle, &TambrelleApp::showPanel);
+        QObject::connect(&service, &ApplicationService::preferencesRequested, &*tambrelle,
+                         &TambrelleApp::openSettings);
     });
     QObject::connect(&service, &ApplicationService::deferred, &application, &QCoreApplication::quit);
     QObject::connect(&service, &ApplicationService::quitRequested, &application, &QCoreApplication::quit);

@@ -11,7 +11,7 @@ namespace tambrelle {
 namespace {
 
 /// A desktop entry of ours has some ten lines; what is larger is not read further.
-constexpr qint64 mostRead = 16 * 1024;
+constexpr qint64 mostRead = 16LL * 1024;
 
 /// An argument of an Exec line: in double quotes, with the characters escaped that the desktop entry format
 /// reserves there, and then once more for the format's own strings.
@@ -23,11 +23,20 @@ QString quotedArgument(const QString& argument) {
         quoted += c == QLatin1Char('%') ? QStringLiteral("%%") : QString(c);
     }
     quoted.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+    quoted.replace(QLatin1Char('\n'), QLatin1String("\\n"));
+    quoted.replace(QLatin1Char('\t'), QLatin1String("\\t"));
+    quoted.replace(QLatin1Char('\r'), QLatin1String("\\r"));
     return QLatin1Char('"') + quoted + QLatin1Char('"');
 }
 
 QString execLine(const QString& program) {
-    return QStringLiteral("Exec=") + quotedArgument(program);
+    // GLib looks for the program before it turns %% into %, and then drops the entry as one whose program is
+    // missing. A shell in front is found, and gets its argument expanded.
+    const QString shell =
+        program.contains(QLatin1Char('%'))
+            ? QStringLiteral("/bin/sh -c ") + quotedArgument(QStringLiteral("exec \"$0\"")) + QLatin1Char(' ')
+            : QString();
+    return QStringLiteral("Exec=") + shell + quotedArgument(program);
 }
 
 QByteArray entryText(const QString& program) {

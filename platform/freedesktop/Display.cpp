@@ -1,6 +1,7 @@
 #include "platform/freedesktop/Display.h"
 
 #include <QByteArray>
+#include <QGuiApplication>
 
 #include <algorithm>
 #include <iterator>
@@ -64,6 +65,13 @@ bool prepareDisplay(int argc, const char* const* argv) {
     if (x11 && placesOnlyX11Windows() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "xcb");
     return x11 || waylandAnswers();
+}
+
+PopoverKind popoverKind() {
+    // An X11 window under a Wayland compositor sees no click outside the windows of X11.
+    const bool x11Alone =
+        QGuiApplication::platformName() != QLatin1String("wayland") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    return x11Alone ? PopoverKind::grabbing : PopoverKind::standing;
 }
 
 } // namespace tambrelle

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/PopoverKind.h"
+
 namespace tambrelle {
 
 /// Whether a display server answers to which the toolkit, started with these arguments and this environment,
@@ -7,5 +9,8 @@ namespace tambrelle {
 /// a Wayland desktop lets only X11 windows choose their place, as GNOME does, the toolkit is told to be one;
 /// a choice of the user's stands. Comes before the toolkit's application object.
 [[nodiscard]] bool prepareDisplay(int argc, const char* const* argv);
+
+/// What this display server allows of popovers. Comes after the toolkit's application object.
+[[nodiscard]] PopoverKind popoverKind();
 
 } // namespace tambrelle

@@ -1,6 +1,7 @@
 #include "platform/freedesktop/FreedesktopPlatform.h"
 
 #include "platform/freedesktop/AutostartLoginItem.h"
+#include "platform/freedesktop/Display.h"
 #include "platform/freedesktop/EventLoopTimer.h"
 #include "platform/freedesktop/IniUserDefaults.h"
 #include "platform/freedesktop/InstalledResources.h"
@@ -47,7 +48,8 @@ Platform FreedesktopPlatform::ports() {
             .systemSound = parts->systemSound,
             .notifications = parts->notifications,
             .loginItem = parts->loginItem,
-            .statusItem = parts->statusItem};
+            .statusItem = parts->statusItem,
+            .popover = popoverKind()};
 }
 
 } // namespace tambrelle

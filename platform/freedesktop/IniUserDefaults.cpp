@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -10,17 +11,33 @@ namespace tambrelle {
 namespace {
 
 /// Eight short lines need less than 1 KB; a file beyond this is not ours and is not worth the memory.
-constexpr qint64 largestSaneFile = 64 * 1024;
+constexpr qint64 largestSaneFile = 64LL * 1024;
 
 std::unique_ptr<QSettings> openStore(const QString& path) {
     return std::make_unique<QSettings>(path, QSettings::IniFormat);
 }
 
+/// Whether a value is an object that the toolkit would make from bytes of the file. We store none, and what
+/// it makes of damaged ones is not to be relied on. A text of ours that begins so is stored with a second @.
+bool holdsObjects(const QString& path) {
+    static const QRegularExpression object(QStringLiteral("(^|[^@])@(Variant|DateTime)\\("));
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && QString::fromLatin1(file.readAll()).contains(object);
+}
+
+bool isDamaged(const QFileInfo& file) {
+    // A pipe or a device would be waited for.
+    return file.exists() &&
+           (!file.isFile() || file.size() > largestSaneFile || holdsObjects(file.filePath()));
+}
+
 /// Null where the file is damaged.
 std::unique_ptr<QSettings> openSaneStore(const QString& path) {
-    if (QFileInfo(path).size() > largestSaneFile)
+    if (isDamaged(QFileInfo(path)))
         return nullptr;
     auto store = openStore(path);
+    // The lines of a section are looked at only when a key is asked for.
+    store->allKeys();
     return store->status() == QSettings::FormatError ? nullptr : std::move(store);
 }
 
@@ -70,17 +87,21 @@ QVariant IniUserDefaults::value(const QString& key) const {
 
 void IniUserDefaults::set(const QString& key, const QVariant& value) {
     assigned.insert(key, value);
-    if (!settings)
+    if (settings)
+        settings->setValue(key, value);
+    else
         replaceDamagedStore();
-    settings->setValue(key, value);
 }
 
 void IniUserDefaults::replaceDamagedStore() {
     // The user may want to mend by hand what we could not read.
     const QString aside = path + QStringLiteral(".damaged");
     QFile::remove(aside);
-    QFile::rename(path, aside);
+    if (QFile::exists(path) && !QFile::rename(path, aside))
+        return;
     settings = openStore(path);
+    for (auto entry = assigned.cbegin(); entry != assigned.cend(); ++entry)
+        settings->setValue(entry.key(), entry.value());
 }
 
 } // namespace tambrelle

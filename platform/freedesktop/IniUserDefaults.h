@@ -12,9 +12,9 @@ class QSettings;
 namespace tambrelle {
 
 /// Preferences in one INI file, written from the event loop by way of a new file that is renamed. A file that
-/// is damaged or absurdly large reads as empty and is set aside, under its name with ".damaged", by the first
-/// assignment; one that is unreadable reads as empty. What is set stays readable here even when it cannot be
-/// written.
+/// is damaged, absurdly large or no plain file reads as empty and is set aside, under its name with
+/// ".damaged", by the first assignment; one that is unreadable reads as empty. What is set stays readable
+/// here even when it cannot be written.
 class IniUserDefaults final : public UserDefaults {
 public:
     /// `path` need not exist; its folder is made at the first write.
@@ -41,7 +41,7 @@ private:
     void replaceDamagedStore();
 
     QString path;
-    std::unique_ptr<QSettings> settings; ///< Null while the file is damaged and nothing has been assigned.
+    std::unique_ptr<QSettings> settings; ///< Null while a damaged file is in the way.
     QHash<QString, QVariant> assigned; ///< Set since the start; holds even where the file cannot be written.
 };
 

@@ -67,6 +67,16 @@ TEST_F(CalendarManagerTickTest, AnnouncesBeforeItAssigns) {
     EXPECT_EQ(seen, (std::vector{DecimalTime{5, 0, 0}}));
 }
 
+TEST_F(CalendarManagerTickTest, HoldsWhatTheTwoConversionsGive) {
+    launch();
+    for (const auto step : {1s, 864s, 86400s * 31, 86400s * 200}) {
+        const Instant at = noon + step + 17ms;
+        tickAt(at);
+        EXPECT_EQ(calendar->todayDate(), RevolutionaryCalendar::fromGregorian(at));
+        EXPECT_EQ(calendar->currentTime(), RevolutionaryCalendar::toDecimalTime(at));
+    }
+}
+
 TEST_F(CalendarManagerTickTest, LooksNothingUpOnAnOrdinaryTick) {
     launch();
     platform.notifications.answer(true);

@@ -1,7 +1,5 @@
 #include "player/WaveHeader.h"
 
-#include <QByteArray>
-
 #include <gtest/gtest.h>
 
 using namespace tambrelle;
@@ -9,7 +7,7 @@ using namespace tambrelle;
 namespace {
 
 // A size of 0x24: 36 bytes after the preamble's 8.
-const QByteArray header("RIFF\x24\0\0\0WAVEfmt ", 16);
+constexpr std::string_view header("RIFF\x24\0\0\0WAVEfmt ", 16);
 
 } // namespace
 
@@ -23,11 +21,11 @@ TEST(WaveHeader, IsBrokenByAShorterFile) {
 }
 
 TEST(WaveHeader, PromisesNothingWhenStreamed) {
-    EXPECT_FALSE(promisesMoreThanFile(QByteArray("RIFF\xFF\xFF\xFF\xFFWAVEfmt ", 16), 44));
+    EXPECT_FALSE(promisesMoreThanFile(std::string_view("RIFF\xFF\xFF\xFF\xFFWAVEfmt ", 16), 44));
 }
 
 TEST(WaveHeader, IsNotSeenInOtherFiles) {
-    EXPECT_FALSE(promisesMoreThanFile(QByteArray("ID3\x04\0\0\0\0\0#TSSE", 15), 20));
-    EXPECT_FALSE(promisesMoreThanFile(QByteArray("RIFF\x24", 5), 5));
-    EXPECT_FALSE(promisesMoreThanFile(QByteArray(), 0));
+    EXPECT_FALSE(promisesMoreThanFile(std::string_view("ID3\x04\0\0\0\0\0#TSSE", 15), 20));
+    EXPECT_FALSE(promisesMoreThanFile(std::string_view("RIFF\x24", 5), 5));
+    EXPECT_FALSE(promisesMoreThanFile(std::string_view(), 0));
 }

@@ -29,9 +29,14 @@ bool isExpected(const QString& text) {
     return true;
 }
 
+/// What the platform without a display says of itself, whatever the program does.
+bool isLimitOfThePlatform(const QString& text) {
+    return text.startsWith(QLatin1String("This plugin does not support "));
+}
+
 void judge(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
     const bool isWarning = type == QtWarningMsg || type == QtCriticalMsg || type == QtFatalMsg;
-    if (isWarning && !isExpected(text))
+    if (isWarning && !isLimitOfThePlatform(text) && !isExpected(text))
         ADD_FAILURE() << "the toolkit warned: " << qUtf8Printable(text);
     if (!isWarning)
         std::fprintf(stderr, "%s\n", qUtf8Printable(text));

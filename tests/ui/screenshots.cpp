@@ -1,8 +1,9 @@
 // tambrelle-screenshots FOLDER [SCALE]: pictures of the panel and the settings, drawn into memory.
 
 #include "platform/freedesktop/EmojiFont.h"
-#include "tests/ui/LiveState.h"
+#include "tests/ui/StateOnFakes.h"
 #include "ui/panel/MenuBarView.h"
+#include "ui/settings/SettingsView.h"
 
 #include <QApplication>
 #include <QDir>
@@ -14,7 +15,7 @@
 namespace {
 
 using namespace tambrelle;
-using test::LiveState;
+using test::StateOnFakes;
 
 constexpr CivilComponents usualDay{2025, 11, 15, 12, 0, 0};          // 23 Brumaire
 constexpr CivilComponents complementaryDay{2025, 9, 19, 23, 59, 59}; // La Fête de la Vertu
@@ -35,7 +36,7 @@ private:
     QString folder;
 };
 
-void addShippedPictures(LiveState& state) {
+void addShippedPictures(StateOnFakes& state) {
     const QString folder = qEnvironmentVariable("TAMBRELLE_RESOURCES");
     if (folder.isEmpty())
         return;
@@ -45,7 +46,7 @@ void addShippedPictures(LiveState& state) {
 }
 
 void addDay(Album& album, const QString& name, const CivilComponents& day) {
-    LiveState state(day);
+    StateOnFakes state(day);
     addShippedPictures(state);
     MenuBarView view(state.panelServices());
     view.refresh();
@@ -56,7 +57,7 @@ void addDay(Album& album, const QString& name, const CivilComponents& day) {
 }
 
 void addThreeEvents(Album& album) {
-    LiveState state(eventDay);
+    StateOnFakes state(eventDay);
     addShippedPictures(state);
     MenuBarView view(state.panelServices());
     PanelSnapshot snapshot =
@@ -77,6 +78,30 @@ void addThreeEvents(Album& album) {
     album.add(QStringLiteral("three-events"), view);
 }
 
+QPalette darkDesktop() {
+    QPalette palette(QColor(48, 48, 51));
+    palette.setColor(QPalette::Highlight, QColor(74, 144, 217));
+    return palette;
+}
+
+void addSettings(Album& album, const QString& name) {
+    StateOnFakes state(usualDay);
+    SettingsView view(
+        {state.manager, state.notifications, state.sound, state.platform.loginItem, state.platform.clock});
+    view.adjustSize();
+    album.add(name, view);
+}
+
+void addSettingsWithoutTime(Album& album) {
+    StateOnFakes state(usualDay);
+    state.notifications.setEnabled(false);
+    state.platform.loginItem.enabled = true;
+    SettingsView view(
+        {state.manager, state.notifications, state.sound, state.platform.loginItem, state.platform.clock});
+    view.adjustSize();
+    album.add(QStringLiteral("settings-without-time"), view);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -95,5 +120,9 @@ int main(int argc, char** argv) {
     addDay(album, QStringLiteral("complementary"), complementaryDay);
     addDay(album, QStringLiteral("long"), longDay);
     addThreeEvents(album);
+    addSettings(album, QStringLiteral("settings"));
+    addSettingsWithoutTime(album);
+    QApplication::setPalette(darkDesktop());
+    addSettings(album, QStringLiteral("settings-dark-desktop"));
     return EXIT_SUCCESS;
 }

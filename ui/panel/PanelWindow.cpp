@@ -18,10 +18,18 @@ namespace {
 constexpr int notch = 48;
 constexpr int wheelUnitsPerNotch = 120;
 
+/// A click on the item takes the focus from a standing panel, which closes it, just before the item tells of the click.
+constexpr qint64 sameClick = 300;
+
+Qt::WindowFlags flagsFor(PopoverKind kind) {
+    const Qt::WindowType type = kind == PopoverKind::grabbing ? Qt::Popup : Qt::Tool;
+    return type | Qt::FramelessWindowHint;
+}
+
 } // namespace
 
-PanelWindow::PanelWindow(MenuBarView* view)
-    : QWidget(nullptr, Qt::Popup | Qt::FramelessWindowHint), view(view) {
+PanelWindow::PanelWindow(MenuBarView* view, PopoverKind kind)
+    : QWidget(nullptr, flagsFor(kind)), view(view), kind(kind) {
     // The click that closes the panel is not to reach the item below and open it again.
     setAttribute(Qt::WA_NoMouseReplay);
     setWindowTitle(QStringLiteral("Tambrelle"));
@@ -30,10 +38,16 @@ PanelWindow::PanelWindow(MenuBarView* view)
 }
 
 void PanelWindow::toggle(QPoint click) {
+    const bool closedByThisClick = sinceLeft.isValid() && !sinceLeft.hasExpired(sameClick);
     if (isVisible())
         close();
-    else
+    else if (!closedByThisClick)
         open(click);
+}
+
+void PanelWindow::present(QPoint place) {
+    if (!isVisible())
+        open(place);
 }
 
 void PanelWindow::open(QPoint click) {
@@ -42,6 +56,8 @@ void PanelWindow::open(QPoint click) {
     fit();
     scrollTo(0);
     show();
+    if (kind == PopoverKind::standing)
+        activateWindow();
     view->setFocus(Qt::PopupFocusReason);
 }
 
@@ -51,6 +67,9 @@ void PanelWindow::fit() {
         there = QGuiApplication::primaryScreen();
     const PanelPlacement placement{.click = lastClick, .available = there->availableGeometry()};
     const QRect place = placement.place(view->size());
+    // A compositor that tiles lets a window of one size float.
+    if (kind == PopoverKind::standing)
+        setFixedSize(place.size());
     setGeometry(place);
     scrollTo(view->y());
 }
@@ -71,9 +90,21 @@ void PanelWindow::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Down:
         scrollTo(view->y() - notch);
         break;
+    case Qt::Key_Escape:
+        close();
+        break;
     default:
         QWidget::keyPressEvent(event);
     }
+}
+
+void PanelWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    const bool left = event->type() == QEvent::ActivationChange && !isActiveWindow();
+    if (kind != PopoverKind::standing || !left || !isVisible())
+        return;
+    sinceLeft.start();
+    close();
 }
 
 bool PanelWindow::focusNextPrevChild(bool next) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/PopoverKind.h"
+
+#include <QElapsedTimer>
 #include <QPoint>
 #include <QWidget>
 
@@ -13,14 +16,17 @@ class PanelWindow final : public QWidget {
 
 public:
     /// Takes the view.
-    explicit PanelWindow(MenuBarView* view);
+    PanelWindow(MenuBarView* view, PopoverKind kind);
 
     /// Opens at the click, or closes when it is open.
     void toggle(QPoint click);
+    /// Opens there, unless it is open.
+    void present(QPoint place);
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
 
 private:
@@ -29,6 +35,8 @@ private:
     void scrollTo(int top);
 
     MenuBarView* view;
+    PopoverKind kind;
+    QElapsedTimer sinceLeft; ///< Since a standing panel lost the focus and closed.
     QPoint lastClick;
 };
 

@@ -4,7 +4,6 @@
 #include "ui/TextLabel.h"
 #include "ui/panel/PanelMetrics.h"
 
-#include <QImageReader>
 #include <QPainter>
 #include <QPainterPath>
 #include <QVBoxLayout>
@@ -15,6 +14,8 @@ QImage composedPicture(const QImage& plate, const PictureFrame& frame) {
     const QSize pixels = (QSizeF(frame.size) * frame.devicePixelRatio).toSize();
     QImage image(pixels, QImage::Format_RGB32);
     image.fill(frame.field);
+    if (plate.isNull())
+        return image;
     const QImage fitted = plate.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     QPainter painter(&image);
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);
@@ -33,14 +34,16 @@ PictureView::PictureView(QWidget* parent)
 }
 
 void PictureView::present(const std::optional<QString>& file, const QString& emoji) {
-    emojiLabel->setText(emoji);
-    const QString wanted = file && QImageReader(*file).canRead() ? *file : QString();
-    emojiLabel->setVisible(wanted.isEmpty());
-    if (wanted == shownFile)
-        return;
-    shownFile = wanted;
-    composed = {};
-    update();
+    if (!file || *file != shownFile) {
+        decoded = file ? QImage(*file) : QImage();
+        shownFile = decoded.isNull() ? QString() : *file;
+        composed = {};
+        update();
+    }
+    // A large emoji is dear to measure.
+    if (shownFile.isEmpty())
+        emojiLabel->setText(emoji);
+    emojiLabel->setVisible(shownFile.isEmpty());
 }
 
 void PictureView::resizeEvent(QResizeEvent*) {
@@ -50,10 +53,12 @@ void PictureView::resizeEvent(QResizeEvent*) {
 const QPixmap& PictureView::picture() {
     const QColor field = color(palette(), Ink::pictureField);
     if (composed.isNull() || composedField != field || composed.devicePixelRatio() != devicePixelRatioF()) {
-        const QImage plate(shownFile);
+        if (decoded.isNull())
+            decoded = QImage(shownFile);
         composed = QPixmap::fromImage(composedPicture(
-            plate, {.size = size(), .devicePixelRatio = devicePixelRatioF(), .field = field}));
+            decoded, {.size = size(), .devicePixelRatio = devicePixelRatioF(), .field = field}));
         composedField = field;
+        decoded = {};
     }
     return composed;
 }

@@ -30,6 +30,7 @@ private:
 
     TextLabel* emojiLabel;
     QString shownFile;
+    QImage decoded; ///< until it is composed; the plate itself is larger than what is shown of it
     QPixmap composed;
     QColor composedField;
 };

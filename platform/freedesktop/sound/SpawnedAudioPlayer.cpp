@@ -73,7 +73,8 @@ void SpawnedAudioPlayer::silence() {
     // Its failure has lost its meaning, but its end has to be waited for, or a zombie is left.
     sounding->disconnect(this);
     connect(sounding, &QProcess::finished, sounding, &QObject::deleteLater);
-    sounding->kill();
+    // Asked rather than killed: sound servers take the sudden death of a client badly.
+    sounding->terminate();
     sounding.clear();
 }
 

@@ -1,11 +1,11 @@
 #include "platform/freedesktop/statusitem/DayIcon.h"
 
+#include "platform/freedesktop/statusitem/Digits.h"
+
 #include <QColor>
-#include <QFont>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRectF>
-#include <QString>
 
 namespace tambrelle {
 
@@ -20,8 +20,12 @@ const QColor leafInk(56, 41, 31);
 constexpr double margin = 0.04;
 constexpr double corner = 0.14;
 constexpr double headHeight = 0.22;
-constexpr double digitHeight = 0.62;
+constexpr double digitHeight = 0.5;
+constexpr double penWidth = 0.085;
 constexpr double edgeWidth = 0.045;
+
+/// In device pixels; thinner strokes turn grey.
+constexpr double thinnestPen = 1.3;
 
 } // namespace
 
@@ -44,14 +48,12 @@ QImage dayIcon(std::int64_t day, int side) {
     painter.setClipping(false);
     painter.strokePath(outline, QPen(leafEdge, edge));
 
-    QFont font;
-    font.setFamily(QStringLiteral("sans-serif"));
-    font.setBold(true);
-    font.setPixelSize(std::max(6, qRound(unit * digitHeight)));
-    painter.setFont(font);
-    painter.setPen(leafInk);
     const QRectF page = leaf.adjusted(0, unit * headHeight - edge, 0, 0);
-    painter.drawText(page, Qt::AlignCenter, QString::number(day));
+    const double pen = std::max(thinnestPen, unit * penWidth);
+    QRectF figures(0, 0, page.width(), unit * digitHeight);
+    figures.moveCenter(page.center());
+    painter.strokePath(numberStrokes(day, figures, pen),
+                       QPen(leafInk, pen, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     return image;
 }
 

@@ -2,15 +2,19 @@
 
 import sys
 
-from gi.repository import GLib
+from gi.repository import Gio, GLib
 
 from .bus import Absent, Bus
 from .waiting import until
 
 REGISTRY = "org.a11y.atspi.Registry"
+REGISTRY_PATH = "/org/a11y/atspi/registry"
+FOCUSED = "object:state-changed:focused"
 ROOT = "/org/a11y/atspi/accessible/root"
 NULL = "/org/a11y/atspi/null"
 ACCESSIBLE = "org.a11y.atspi.Accessible"
+
+LABELLED_BY = 2  # a kind of relation
 
 # Bits of the state set that the tests ask for.
 STATES = {"checked": 4, "enabled": 8, "focused": 12, "sensitive": 24, "showing": 25, "visible": 30}
@@ -43,6 +47,12 @@ class Node:
         return self._call(ACCESSIBLE, "GetRoleName")
 
     @property
+    def parent(self):
+        """None at the top."""
+        service, path = self.bus.get(self.service, self.path, ACCESSIBLE, "Parent")
+        return Node(self.bus, service, path) if path != NULL else None
+
+    @property
     def children(self):
         return [Node(self.bus, service, path) for service, path in self._call(ACCESSIBLE, "GetChildren")
                 if path != NULL]
@@ -50,6 +60,12 @@ class Node:
     def has(self, state):
         low, high = self._call(ACCESSIBLE, "GetState")
         return bool((low | high << 32) >> STATES[state] & 1)
+
+    @property
+    def labels(self):
+        """The texts of the labels that belong to this control. A combo box's own name is what is chosen in it."""
+        return [Node(self.bus, service, path).name for kind, targets in self._call(ACCESSIBLE, "GetRelationSet")
+                if kind == LABELLED_BY for service, path in targets]
 
     @property
     def extents(self):
@@ -85,10 +101,22 @@ class Accessibility:
     def __init__(self, processes):
         self._processes = processes
         self.bus = Bus(processes, "accessibility-bus", Bus.ACCESSIBILITY, own_address_as="AT_SPI_BUS_ADDRESS")
+        # A popup is in no application's list of windows: like a screen reader, we learn of it when it takes the focus.
+        self._focused = {}
+        self.bus.connection.signal_subscribe(None, "org.a11y.atspi.Event.Object", "StateChanged", None, "focused",
+                                             Gio.DBusSignalFlags.NONE, self._remember_focus)
+
+    def _remember_focus(self, _connection, sender, path, _interface, _signal, _arguments):
+        self._focused.setdefault(sender, {})[path] = True
 
     def announce(self, session_bus, script):
         self._processes.start("accessibility-service", sys.executable, script, self.bus.address)
         until("the session knows of the accessibility bus", lambda: session_bus.has_owner("org.a11y.Bus"))
+        until("the registry takes our wish to hear of the focus", self._ask_for_focus, passing=(Absent,))
+
+    def _ask_for_focus(self):
+        self.bus.call(REGISTRY, REGISTRY_PATH, REGISTRY, "RegisterEvent", GLib.Variant("(sass)", (FOCUSED, [], "")))
+        return True
 
     def applications(self):
         return Node(self.bus, REGISTRY, ROOT).children
@@ -103,10 +131,28 @@ class Accessibility:
                 continue
         raise Absent(f"process {pid} is not in the accessibility tree")
 
+    def windows(self, pid):
+        """The roots of a process's windows, popups included."""
+        application = self.application(pid)
+        roots = {node.path: node for node in application.children}
+        context = GLib.MainContext.default()
+        while context.iteration(False):
+            pass
+        for path in list(self._focused.get(application.service, ())):
+            try:
+                node = Node(self.bus, application.service, path)
+                while (parent := node.parent) is not None and parent.path != application.path:
+                    node = parent
+                if parent is not None:
+                    roots.setdefault(node.path, node)
+            except Absent:
+                del self._focused[application.service][path]  # it has been destroyed
+        return list(roots.values())
+
     def nodes(self, pid, role=None, name=None, showing=True):
         """The objects of a process with this role and name, by default those that are on the screen."""
         found = []
-        for node in self.application(pid).walk():
+        for node in (node for window in self.windows(pid) for node in window.walk()):
             try:
                 if ((role is None or node.role == role) and (name is None or node.name == name)
                         and (not showing or node.has("showing"))):

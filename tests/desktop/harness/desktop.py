@@ -196,13 +196,17 @@ class Desktop:
     def click(self, x, y, button=1):
         self.pointer.click(x, y, button)
 
+    def click_with(self, key, x, y):
+        """Clicks while a key is held, for example "alt"."""
+        self.processes.run("xdotool", "mousemove", x, y, "keydown", key, "click", 1, "keyup", key)
+
     def key(self, *keys):
         """Presses keys by their X names, for example "Escape" or "alt+c"."""
         self.processes.run("xdotool", "key", *keys)
 
     def clipboard(self):
-        """The clipboard's text."""
-        return self.processes.run("xclip", "-o", "-selection", "clipboard").decode()
+        """The clipboard's text, empty where nobody offers any."""
+        return self.processes.run("xclip", "-o", "-selection", "clipboard", check=False).decode()
 
     def wait_for_item(self, program, limit=10.0):
         return until("the program's item is registered", lambda: self.item_of(program), limit)

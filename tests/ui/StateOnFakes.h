@@ -3,21 +3,17 @@
 #include "app/CalendarManager.h"
 #include "app/NotificationManager.h"
 #include "app/SoundManager.h"
-#include "core/GregorianCalendar.h"
+#include "tests/app/LocalInstant.h"
 #include "tests/fakes/FakePlatform.h"
 #include "ui/panel/MenuBarView.h"
+#include "ui/settings/SettingsView.h"
 
 namespace tambrelle::test {
 
-/// The instant at which the wall clock shows these components.
-inline Instant wallClock(const CivilComponents& components) {
-    return GregorianCalendar::instant(components).value();
-}
-
 /// The live state with its services, on a desktop of fakes.
-class LiveState final {
+class StateOnFakes final {
 public:
-    explicit LiveState(const CivilComponents& now) : start{platform, wallClock(now)} {}
+    explicit StateOnFakes(const CivilComponents& now) : start{platform, local(now)} {}
 
     /// The services of a panel whose delayed actions wait in `delayed`.
     [[nodiscard]] PanelServices panelServices() {
@@ -28,6 +24,14 @@ public:
                 .later = [this](std::chrono::milliseconds delay, std::function<void()> action) {
                     delayed.push_back({delay, std::move(action)});
                 }};
+    }
+
+    [[nodiscard]] SettingsServices settingsServices() {
+        return {.manager = manager,
+                .notifications = notifications,
+                .sound = sound,
+                .loginItem = platform.loginItem,
+                .clock = platform.clock};
     }
 
     struct Delayed {

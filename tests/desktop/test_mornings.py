@@ -1,0 +1,205 @@
+#!/usr/bin/python3
+"""The morning notification: at its minute, after sleep, across midnights, and with a service that is not as it should be.
+
+The service is one that only records. Where it must stay silent, a later morning shows that it would have been heard."""
+
+import json
+import pathlib
+import time
+
+from harness import DesktopTest, main, until
+
+NAME = "org.freedesktop.Notifications"
+AT_EIGHT = {"notificationsConfigured": "true", "notificationsEnabled": "true",
+            "notificationHour": "8", "notificationMinute": "0"}
+DAY_15 = ("23 Brumaire an CCXXXIV", "🌿 Aujourd'hui : Garance — Madder")
+DAY_16 = "24 Brumaire an CCXXXIV"
+DAY_17 = "25 Brumaire an CCXXXIV"
+ON_TIME = 5      # seconds after the minute
+AFTER_JUMP = 10  # seconds after sleep or after the clock was set
+
+
+class MorningTest(DesktopTest):
+    limit = 120
+
+    def setUp(self):
+        super().setUp()
+        self.record = self.desktop.directory / "notifications"
+        self.server = None
+
+    def start_server(self, *options):
+        script = pathlib.Path(__file__).with_name("notification_server.py")
+        copy = self.desktop.directory / script.name
+        copy.write_bytes(script.read_bytes())
+        self.server = self.desktop.processes.start("notification-server", "/usr/bin/python3", "-B", copy, self.record,
+                                                   *options)
+        until("the notification service is there", lambda: self.desktop.bus.has_owner(NAME), 10)
+
+    def stop_server(self):
+        self.server.kill()
+        until("the notification service is gone", lambda: not self.desktop.bus.has_owner(NAME))
+
+    def shown(self):
+        if not self.record.exists():
+            return []
+        return [json.loads(line) for line in self.record.read_text(encoding="utf-8").splitlines()]
+
+    def titles(self):
+        return [notification["summary"] for notification in self.shown()]
+
+    def start_at(self, clock, line, **options):
+        """Starts the program, and waits until it has put the mornings on its list: a stored line shows that it ran."""
+        self.desktop.clock.set(clock)
+        program = self.start_program(**options)
+        program.wait_for_text(line)
+        return program
+
+    def wait_for(self, titles, limit):
+        until(f"shown: {titles}", lambda: self.titles() == titles or None, limit)
+
+    def live(self, seconds, program):
+        """Lets the program tick on; there is no sign for something that does not happen."""
+        end = time.monotonic() + seconds
+        while time.monotonic() < end:
+            program.must_run()
+            time.sleep(0.1)
+
+
+class Mornings(MorningTest):
+    def test_comes_once_at_its_minute(self):
+        self.start_server()
+        program = self.start_at("2025-11-15 07:59:50", "🌫️ 23 Brumaire · Tridi · 3:33")  # at first run: at 8:00
+        self.live(7, program)
+        self.assertEqual(self.shown(), [])
+        self.wait_for([DAY_15[0]], 3 + ON_TIME)
+        self.live(3, program)
+        notification, = self.shown()
+        self.assertEqual((notification["summary"], notification["body"]), DAY_15)
+        self.assertEqual(notification["application"], "Tambrelle")
+        self.assertEqual(notification["hints"]["desktop-entry"], "org.tambrelle.Tambrelle")
+        self.assertEqual(notification["hints"]["urgency"], 1)
+        self.assertTrue(notification["hints"]["category"])
+        self.assertTrue(notification["hints"]["sound-name"])
+
+    def test_slept_through_is_shown_once(self):
+        self.start_server()
+        program = self.start_at("2025-11-15 07:00:00", "🌫️ 23 Brumaire · Tridi · 2:91")
+        self.desktop.clock.set("2025-11-15 09:30:00")
+        self.wait_for([DAY_15[0]], AFTER_JUMP)
+        self.live(3, program)
+        self.assertEqual(self.titles(), [DAY_15[0]])
+
+    def test_slept_through_into_a_new_day_is_shown_once(self):
+        self.start_server()
+        program = self.start_at("2025-11-15 07:00:00", "🌫️ 23 Brumaire · Tridi · 2:91")
+        self.desktop.clock.set("2025-11-16 07:59:55")
+        self.wait_for([DAY_15[0]], 4)
+        self.wait_for([DAY_15[0], DAY_16], 5 + ON_TIME)
+        self.live(2, program)
+        self.assertEqual(self.titles(), [DAY_15[0], DAY_16])
+
+    def test_the_window_slides_at_midnight(self):
+        self.start_server()
+        program = self.start_at("2025-11-15 23:59:57", "🌫️ 23 Brumaire · Tridi · 9:99")
+        program.wait_for_text("🌫️ 24 Brumaire · Quartidi · 0:00")
+        # The fourteenth morning from the new day on was not on the list of the old one.
+        self.desktop.clock.set("2025-11-29 08:00:10")
+        until("all fourteen are shown", lambda: len(self.titles()) == 14 or None, AFTER_JUMP)
+        self.assertEqual((self.titles()[0], self.titles()[-1]), (DAY_16, "7 Frimaire an CCXXXIV"))
+
+    def test_switched_off(self):
+        self.start_server()
+        program = self.start_at("2025-11-15 07:59:57", "🌫️ 23 Brumaire · Tridi · 3:33",
+                                preferences={**AT_EIGHT, "notificationsEnabled": "false"})
+        self.live(8, program)
+        self.desktop.clock.set("2025-11-16 09:00:00")
+        self.live(4, program)
+        self.assertEqual(self.shown(), [])
+
+    def test_at_another_time(self):
+        self.start_server()
+        self.start_at("2025-11-15 08:00:00", "🌫️ 23 Brumaire · Tridi · 3:33",
+                      preferences={**AT_EIGHT, "notificationHour": "9", "notificationMinute": "15"})
+        self.desktop.clock.set("2025-11-15 09:14:55")
+        self.wait_for([DAY_15[0]], 5 + ON_TIME)
+
+    def test_the_clock_is_set_back(self):
+        self.start_server()
+        self.start_at("2025-11-15 07:59:58", "🌫️ 23 Brumaire · Tridi · 3:33")
+        self.wait_for([DAY_15[0]], 2 + ON_TIME)
+        self.desktop.clock.set("2025-11-15 07:59:58")
+        self.desktop.clock.set("2025-11-16 07:59:58")
+        self.wait_for([DAY_15[0], DAY_16], 2 + ON_TIME)
+
+    def test_times_out_of_range(self):
+        self.start_server()
+        for hour, minute in (("-1", "0"), ("99", "0"), ("8", "99"), ("8", "-1"), ("9223372036854775807", "0")):
+            with self.subTest(hour=hour, minute=minute):
+                program = self.start_at(
+                    "2025-11-15 07:59:58", "🌫️ 23 Brumaire · Tridi · 3:33",
+                    preferences={**AT_EIGHT, "notificationHour": hour, "notificationMinute": minute})
+                self.live(3, program)
+                self.desktop.clock.set("2025-11-16 10:00:00")
+                program.wait_for_text("🌫️ 24 Brumaire · Quartidi · 4:16")
+                self.assertEqual(self.shown(), [])
+                program.stop()
+
+
+class BadServices(MorningTest):
+    def lives_through_the_next_morning(self, program, expected):
+        self.desktop.clock.set("2025-11-16 07:59:57")
+        program.wait_for_text("🌫️ 24 Brumaire · Quartidi · 3:33", limit=2)  # nothing blocks
+        self.wait_for(expected, 3 + ON_TIME)
+
+    def test_answers_with_errors(self):
+        self.start_server("--refuse")
+        program = self.start_at("2025-11-15 07:59:58", "🌫️ 23 Brumaire · Tridi · 3:33")
+        self.wait_for([DAY_15[0]], 2 + ON_TIME)
+        self.lives_through_the_next_morning(program, [DAY_15[0], DAY_16])
+        self.assertEqual(program.output(), "")
+
+    def test_answers_after_half_a_minute(self):
+        self.start_server("--delay", "30")
+        program = self.start_at("2025-11-15 07:59:00", "🌫️ 23 Brumaire · Tridi · 3:32")
+        self.desktop.clock.set("2025-11-15 12:00:00")
+        program.wait_for_text("🌫️ 23 Brumaire · Tridi · 5:00", limit=2)
+        # Permission comes half a minute late; the next morning is on the list then, and is told half a minute late too.
+        self.live(31, program)
+        self.desktop.clock.set("2025-11-16 07:59:58")
+        self.wait_for([DAY_16], 32 + ON_TIME)
+
+    def test_dies_between_two_mornings(self):
+        self.start_server()
+        program = self.start_at("2025-11-15 07:59:58", "🌫️ 23 Brumaire · Tridi · 3:33")
+        self.wait_for([DAY_15[0]], 2 + ON_TIME)
+        self.stop_server()
+        self.start_server()
+        self.lives_through_the_next_morning(program, [DAY_15[0], DAY_16])
+
+    def test_reads_markup(self):
+        self.start_server("--markup")
+        self.start_at("2025-11-15 07:59:58", "🌫️ 23 Brumaire · Tridi · 3:33")
+        self.wait_for([DAY_15[0]], 2 + ON_TIME)
+        self.assertEqual(self.shown()[0]["body"], DAY_15[1])  # nothing to escape on this day
+
+
+class Drawn(MorningTest):
+    """The same, drawn by a real service."""
+
+    def test_dunst(self):
+        dunst = self.desktop.processes.start("dunst", "dunst", "-print", without=["XDG_DATA_DIRS"])
+        until("dunst is there", lambda: self.desktop.bus.has_owner(NAME), 10)
+        self.start_at("2025-11-15 07:59:57", "🌫️ 23 Brumaire · Tridi · 3:33")
+        before = {window.id for window in self.desktop.x11.windows()}
+        until("dunst has it", lambda: DAY_15[0] in dunst.output(), 3 + ON_TIME)
+        self.assertIn(DAY_15[1], dunst.output())
+        window, = until("its window is there",
+                        lambda: [window for window in self.desktop.x11.windows() if window.id not in before])
+        until("it is drawn", lambda: len(self.desktop.picture().cropped(
+            window.x, window.y, window.width, window.height).colours()) > 8)
+        if self.evidence:
+            self.desktop.save_picture(pathlib.Path(self.evidence) / "dunst.png")
+
+
+if __name__ == "__main__":
+    main()

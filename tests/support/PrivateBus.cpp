@@ -1,0 +1,38 @@
+#include "tests/support/PrivateBus.h"
+
+#include "tests/support/EventLoop.h"
+
+#include <QDBusPendingCall>
+
+namespace tambrelle::test {
+
+PrivateBus::PrivateBus() {
+    daemon.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                                                 QStringLiteral("--print-address=1")});
+    const bool spoke =
+        daemon.waitForStarted() && waitUntil([this] { return daemon.canReadLine() || !daemon.isOpen(); });
+    if (spoke)
+        address = QString::fromUtf8(daemon.readLine()).trimmed();
+}
+
+PrivateBus::~PrivateBus() {
+    for (const QString& name : std::as_const(connections))
+        QDBusConnection::disconnectFromBus(name);
+    daemon.terminate();
+    daemon.waitForFinished();
+}
+
+QDBusConnection PrivateBus::connect() {
+    static int count = 0;
+    connections.append(QStringLiteral("private-%1").arg(++count));
+    return QDBusConnection::connectToBus(address, connections.last());
+}
+
+QDBusMessage callAndWait(const QDBusConnection& connection, const QDBusMessage& message) {
+    const QDBusPendingCall call = connection.asyncCall(message);
+    if (!waitUntil([&call] { return call.isFinished(); }))
+        return message.createErrorReply(QDBusError::NoReply, QStringLiteral("no answer in time"));
+    return call.reply();
+}
+
+} // namespace tambrelle::test

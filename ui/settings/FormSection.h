@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QWidget>
+
+#include <vector>
+
+class QVBoxLayout;
+
+namespace tambrelle {
+
+/// A titled group of a form: its rows in one rounded box, with a line between two rows that show.
+class FormSection final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit FormSection(const QString& title, QWidget* parent = nullptr);
+
+    /// Takes the row.
+    void addRow(QWidget* row);
+    /// Adds `control` on the trailing side of its label, and gives it the label as its accessible name. The
+    /// row can be shown and hidden.
+    QWidget* addRow(const QString& label, QWidget* control);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] QColor ground() const;
+    [[nodiscard]] QColor hairline() const;
+
+    QWidget* box;
+    QVBoxLayout* rows;
+    std::vector<QWidget*> rowWidgets;
+};
+
+} // namespace tambrelle
