@@ -33,6 +33,8 @@ int main(int argc, char** argv) {
         // the rest of it, and the bar's line names its own.
         QObject::connect(&item, &StatusItem::activated, &application, preferEmojiFont);
         QObject::connect(&item, &StatusItem::preferencesRequested, &application, preferEmojiFont);
+        QObject::connect(&service, &ApplicationService::activated, &application, preferEmojiFont);
+        QObject::connect(&service, &ApplicationService::preferencesRequested, &application, preferEmojiFont);
         tambrelle.emplace(platform->ports());
         QObject::connect(&service, &ApplicationService::activated, &*tambrelle, &TambrelleApp::showPanel);
         QObject::connect(&service, &ApplicationService::preferencesRequested, &*tambrelle,

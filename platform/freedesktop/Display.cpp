@@ -69,8 +69,8 @@ bool prepareDisplay(int argc, const char* const* argv) {
 
 PopoverKind popoverKind() {
     // An X11 window under a Wayland compositor sees no click outside the windows of X11.
-    const bool x11Alone =
-        QGuiApplication::platformName() != QLatin1String("wayland") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    const bool x11Alone = QGuiApplication::platformName() != QLatin1String("wayland") &&
+                          qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
     return x11Alone ? PopoverKind::grabbing : PopoverKind::standing;
 }
 

@@ -5,6 +5,8 @@
 #include <QFontInfo>
 #include <QStringList>
 
+#include <utility>
+
 namespace tambrelle {
 
 QString emojiFamily() {
@@ -14,6 +16,9 @@ QString emojiFamily() {
 }
 
 void preferEmojiFont() {
+    static bool preferred = false;
+    if (std::exchange(preferred, true))
+        return;
     const QStringList used{QFontDatabase::systemFont(QFontDatabase::GeneralFont).family(),
                            QFontDatabase::systemFont(QFontDatabase::FixedFont).family(),
                            QStringLiteral("serif")};

@@ -193,11 +193,17 @@ TEST_F(NotifierObjectTest, AnnouncesOnlyWhatChanges) {
     EXPECT_EQ(announced, (QStringList{QStringLiteral("NewTitle"), QStringLiteral("NewToolTip")}));
 }
 
-TEST_F(LabelledNotifierObjectTest, AnnouncesTheLabelWithItsText) {
-    object.setContent({.line = QStringLiteral("next"), .day = 24});
-    EXPECT_EQ(announced.count(QStringLiteral("XAyatanaNewLabel")), 1);
-    EXPECT_EQ(announced.last(), QStringLiteral("XAyatanaNewLabel"));
+TEST_F(LabelledNotifierObjectTest, SendsOneSignalForAMinuteWithItsText) {
+    object.setContent({.line = QStringLiteral("next"), .day = noonLine.day});
+    EXPECT_EQ(announced, QStringList{QStringLiteral("XAyatanaNewLabel")});
     EXPECT_EQ(lastArguments.value(0).toString(), QStringLiteral("next"));
+}
+
+TEST_F(LabelledNotifierObjectTest, AnnouncesTheTitleTooWithTheDay) {
+    object.setContent({.line = QStringLiteral("next"), .day = noonLine.day + 1});
+    announced.sort();
+    EXPECT_EQ(announced, (QStringList{QStringLiteral("NewTitle"), QStringLiteral("NewToolTip"),
+                                      QStringLiteral("XAyatanaNewLabel")}));
 }
 
 TEST_F(NotifierObjectTest, AnnouncesTheIconOnlyWhenItDiffers) {

@@ -18,7 +18,8 @@ namespace {
 constexpr int notch = 48;
 constexpr int wheelUnitsPerNotch = 120;
 
-/// A click on the item takes the focus from a standing panel, which closes it, just before the item tells of the click.
+/// A click on the item takes the focus from a standing panel, which closes it, just before the item tells of
+/// the click.
 constexpr qint64 sameClick = 300;
 
 Qt::WindowFlags flagsFor(PopoverKind kind) {

@@ -6,6 +6,8 @@
 #include <QDBusVariant>
 #include <QStringList>
 
+#include <utility>
+
 namespace tambrelle {
 
 namespace {
@@ -69,15 +71,17 @@ NotifierObject::NotifierObject(const NotifierStyle& style, QObject* parent)
 }
 
 void NotifierObject::setContent(const StatusItemContent& next) {
-    if (next.line == content.line) {
-        content = next;
+    const StatusItemContent before = std::exchange(content, next);
+    if (before.line == content.line)
         return;
-    }
-    content = next;
-    emit changed(QStringLiteral("NewTitle"), {});
-    emit changed(QStringLiteral("NewToolTip"), {});
+    // A bar answers NewTitle and NewToolTip by asking for them. Where the label shows the line, and its
+    // signal carries it, the other two need not keep step with every decimal minute.
     if (style.label)
         emit changed(QStringLiteral("XAyatanaNewLabel"), {content.line, content.line});
+    if (!style.label || before.day != content.day) {
+        emit changed(QStringLiteral("NewTitle"), {});
+        emit changed(QStringLiteral("NewToolTip"), {});
+    }
 }
 
 void NotifierObject::setIcon(const IconPixmaps& pixmaps) {

@@ -11,8 +11,10 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QTimer>
 
 #include <array>
+#include <chrono>
 
 namespace tambrelle {
 
@@ -20,6 +22,12 @@ namespace {
 
 /// The sizes in which bars draw square icons, at scales from 1 to 2.
 constexpr std::array iconSides{16, 22, 24, 32, 44, 48};
+
+/// A watcher that has not answered by then is taken for broken, and the line is shown without it.
+constexpr std::chrono::milliseconds watcherPatience{5000};
+
+constexpr std::chrono::milliseconds untilRegisteredAgain{1000};
+constexpr int mostForgotten = 5;
 
 /// The watcher forgets an item when the name goes from the bus, so each item has a name of its own.
 QString freshServiceName() {
@@ -101,6 +109,18 @@ void NotifierPresentation::claimName() {
         else
             registerWithWatcher();
     });
+    bus.connect(NotifierWatcher::service, NotifierWatcher::objectPath, NotifierWatcher::service,
+                QStringLiteral("StatusNotifierItemUnregistered"), this, SLOT(noteUnregistered(QString)));
+}
+
+void NotifierPresentation::noteUnregistered(const QString& dropped) {
+    // A watcher under load may drop an item that was slow to answer it, and never ask again.
+    if (!dropped.startsWith(serviceName))
+        return;
+    if (++forgotten > mostForgotten)
+        emit refused();
+    else
+        QTimer::singleShot(untilRegisteredAgain, this, &NotifierPresentation::registerWithWatcher);
 }
 
 void NotifierPresentation::registerWithWatcher() {
@@ -108,7 +128,8 @@ void NotifierPresentation::registerWithWatcher() {
                                                        NotifierWatcher::service,
                                                        QStringLiteral("RegisterStatusNotifierItem"));
     call.setArguments({serviceName});
-    auto* registration = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
+    auto* registration = new QDBusPendingCallWatcher(
+        QDBusConnection::sessionBus().asyncCall(call, static_cast<int>(watcherPatience.count())), this);
     connect(registration, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* answer) {
         answer->deleteLater();
         if (answer->isError())

@@ -28,6 +28,11 @@ public:
 private:
     void claimName();
     void registerWithWatcher();
+
+private slots:
+    void noteUnregistered(const QString& item);
+
+private:
     void sendSignal(const QString& name, const QVariantList& arguments);
 
     NotifierAppearance appearance;
@@ -35,6 +40,7 @@ private:
     NotifierObject* item;
     MenuObject* menu;
     bool announced = false;
+    int forgotten = 0; ///< How often the watcher has dropped the item.
     std::int64_t shownDay = 0;
 };
 
