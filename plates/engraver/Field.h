@@ -34,8 +34,8 @@ private:
 
 using Field = Grid<float>;
 
-/// Gaussian blur; `sigma` in pixels. Wide ones are three box blurs, whose cost does not grow with sigma and whose
-/// sigma is kept to half a pixel.
+/// Gaussian blur; `sigma` in pixels. Wide ones are three box blurs, whose cost does not grow with sigma and
+/// whose sigma is kept to half a pixel.
 void blur(Field& field, double sigma);
 /// Greatest (least) value within `radius` pixels, a square window.
 Field dilated(const Field& field, int radius);
