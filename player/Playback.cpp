@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 constexpr std::size_t portion = std::size_t{Sound::rate} * Sound::channels / 20;
 
 /// How much the server keeps in store: enough for a busy machine, little enough to fall silent at once.
-constexpr std::uint32_t storedBytes = Sound::rate * Sound::channels * sizeof(float) / 4;
+constexpr std::uint32_t storedBytes = std::uint32_t{Sound::rate} * Sound::channels * sizeof(float) / 4;
 
 /// A server may still be handing the last samples on, out of memory that goes when this process does.
 constexpr auto farewell = 300ms;

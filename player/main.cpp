@@ -36,7 +36,8 @@ std::optional<double> volumeFrom(std::string_view text) {
 }
 
 std::chrono::milliseconds lengthOf(const Sound& sound) {
-    return std::chrono::milliseconds(1000 * sound.samples.size() / (Sound::rate * Sound::channels));
+    return std::chrono::milliseconds(1000 * sound.samples.size() /
+                                     (std::size_t{Sound::rate} * Sound::channels));
 }
 
 } // namespace

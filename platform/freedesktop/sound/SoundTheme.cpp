@@ -31,7 +31,7 @@ QStringList listIn(const QString& index, const QString& key, const QStringList& 
 QString setting(const QString& file, const QString& key) {
     for (const QString& path : QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation, file)) {
         const QSettings settings(path, QSettings::IniFormat);
-        if (const QString value = settings.value(key).toString(); !value.isEmpty())
+        if (QString value = settings.value(key).toString(); !value.isEmpty())
             return value;
     }
     return {};

@@ -37,7 +37,7 @@ SpawnedAudioPlayer::~SpawnedAudioPlayer() {
 
 QString SpawnedAudioPlayer::standardProgram() {
     const QString name = QStringLiteral("/tambrelle-player");
-    const QString beside = QCoreApplication::applicationDirPath() + name;
+    QString beside = QCoreApplication::applicationDirPath() + name;
     if (QFile::exists(beside))
         return beside;
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../libexec/tambrelle") + name;
