@@ -14,10 +14,10 @@ namespace {
 using namespace std::chrono_literals;
 
 /// How much is handed over at once: how soon a request to stop is seen.
-constexpr std::size_t portion = std::size_t{Sound::rate} * Sound::channels / 20;
+constexpr std::size_t portion = std::size_t{Sound::rate} * Sound::channels / 20; // 50 ms
 
 /// How much the server keeps in store: enough for a busy machine, little enough to fall silent at once.
-constexpr std::uint32_t storedBytes = std::uint32_t{Sound::rate} * Sound::channels * sizeof(float) / 4;
+constexpr std::uint32_t storedBytes = portion * sizeof(float) * 5;
 
 /// A server may still be handing the last samples on, out of memory that goes when this process does.
 constexpr auto farewell = 300ms;

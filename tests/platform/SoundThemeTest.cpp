@@ -13,7 +13,7 @@ namespace {
 class SoundThemeTest : public testing::Test {
 protected:
     QString write(const QString& path, const QByteArray& content = {}) {
-        const QString full = folder.filePath(path);
+        QString full = folder.filePath(path);
         EXPECT_TRUE(QDir().mkpath(QFileInfo(full).path()));
         QFile file(full);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));

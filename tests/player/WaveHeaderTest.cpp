@@ -25,7 +25,7 @@ TEST(WaveHeader, PromisesNothingWhenStreamed) {
 }
 
 TEST(WaveHeader, IsNotSeenInOtherFiles) {
-    EXPECT_FALSE(promisesMoreThanFile(std::string_view("ID3\x04\0\0\0\0\0#TSSE", 15), 20));
+    EXPECT_FALSE(promisesMoreThanFile(std::string_view("ID3\x04\0\0\0\0\0#TSSE", 14), 20));
     EXPECT_FALSE(promisesMoreThanFile(std::string_view("RIFF\x24", 5), 5));
     EXPECT_FALSE(promisesMoreThanFile(std::string_view(), 0));
 }
