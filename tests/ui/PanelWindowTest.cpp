@@ -13,15 +13,21 @@ protected:
     void make(const CivilComponents& now) {
         state = std::make_unique<test::StateOnFakes>(now);
         view = new MenuBarView(state->panelServices());
-        window = std::make_unique<PanelWindow>(view);
+        window = std::make_unique<PanelWindow>(view, kind);
     }
     void toggle(QPoint click) {
         window->toggle(click);
         test::runQueued();
     }
 
+    PopoverKind kind = PopoverKind::grabbing;
     MenuBarView* view = nullptr;
     std::unique_ptr<PanelWindow> window;
+};
+
+class StandingPanelWindowTest : public PanelWindowTest {
+protected:
+    StandingPanelWindowTest() { kind = PopoverKind::standing; }
 };
 
 const QRect& screen() {
@@ -34,6 +40,33 @@ TEST_F(PanelWindowTest, IsAPopover) {
     EXPECT_EQ(window->windowType(), Qt::Popup);
     EXPECT_TRUE(window->testAttribute(Qt::WA_NoMouseReplay))
         << "else the click that closes it opens it again";
+}
+
+TEST_F(StandingPanelWindowTest, IsAWindowOfOneSizeThatOpensAndCloses) {
+    make(test::anItemAndNoEvent);
+    EXPECT_EQ(window->windowType(), Qt::Tool);
+    toggle({400, 5});
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(window->minimumSize(), window->maximumSize());
+    toggle({400, 5});
+    EXPECT_FALSE(window->isVisible());
+    toggle({400, 5});
+    EXPECT_TRUE(window->isVisible());
+    QTest::keyClick(view, Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(StandingPanelWindowTest, ClosesWhenAnotherTakesTheFocusAndStaysClosedForThatClick) {
+    make(test::anItemAndNoEvent);
+    toggle({400, 5});
+    ASSERT_TRUE(test::waitUntil([this] { return window->isActiveWindow(); }));
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(test::waitUntil([this] { return !window->isVisible(); }));
+    toggle({400, 5});
+    EXPECT_FALSE(window->isVisible())
+        << "the click on the item that took the focus is the one that closed it";
 }
 
 TEST_F(PanelWindowTest, OpensAndCloses) {
