@@ -1,0 +1,127 @@
+#include "plates/engraver/Body.h"
+#include "plates/engraver/Ground.h"
+#include "plates/engraver/Subject.h"
+#include "plates/engraver/zoology/Eye.h"
+#include "plates/engraver/zoology/Fish.h"
+#include "plates/engraver/zoology/Foot.h"
+
+using namespace tambrelle::engraver;
+
+// The otter: long low body with wet fur, flat broad head, small ears, thick tapering tail, webbed feet; on
+// the bank with the fish it caught.
+static const Subject subject{
+    "day_325_loutre", [](Plate& p) {
+        constexpr Palette fur{0xC4A078, 0x7F5A38, 0x412A1A}, throat{0xF4EAD8, 0xD8C6A6, 0x96805E};
+        waterLines(p, 30, 330, 236, 6);
+        Body body;
+        const double ground = 228;
+        body.chain(
+            {{112, 158, 0, 22}, {138, 152, 0, 26}, {172, 146, 0, 29}, {206, 156, 0, 30}, {226, 172, 0, 25}},
+            {.blend = 16, .coat = 8});
+        body.chain({{226, 176, 0, 20},
+                    {252, 198, -4, 14},
+                    {282, 216, -4, 9.5},
+                    {312, 222, -4, 5},
+                    {330, 219, -4, 1.6}},
+                   {.blend = 12});
+        body.chain({{110, 150, 0, 20}, {96, 132, 0, 17}, {88, 120, 0, 16}}, {.blend = 14});
+        // Head.
+        body.chain({{88, 106, -12, 4.6}, {89, 101, -12, 3}}, {.blend = 2, .depth = 0.6});
+        body.chain({{84, 116, 0, 17}, {70, 118, 2, 15}, {58, 122, 2, 11.5}, {52, 124, 2, 9.5}},
+                   {.blend = 6, .coat = 8});
+        body.chain({{58, 127, 10, 8.4}}, {.blend = 4, .coat = 20});
+        body.chain({{60, 134, 2, 6.4}, {70, 134, 2, 8}}, {.blend = 4, .palette = 1});
+        body.chain({{46, 120, 2, 3.8}, {49, 118, 4, 3.4}}, {.blend = 1.5, .palette = 2});
+        body.chain({{89, 107, 14, 5}, {91, 101, 14, 3.4}}, {.blend = 2, .depth = 0.6});
+        // Legs.
+        for (const double side : {-1.0, 1.0}) {
+            const double z = side * 14, dx = side < 0 ? -20 : 0;
+            body.chain({{120, 168, z, 16},
+                        {114.0 + dx * 0.6, 190, z, 11},
+                        {112.0 + dx, 210, z, 8.6},
+                        {110.0 + dx, 221, z, 7.4}},
+                       {.blend = 9});
+            body.chain({{112.0 + dx, ground - 6, z, 6.4}, {98.0 + dx, ground - 4, z, 5}}, {.blend = 4});
+            const double hx = side < 0 ? 22 : 0;
+            body.chain({{216, 172, z, 25},
+                        {214.0 + hx * 0.5, 190, z, 18},
+                        {222.0 + hx, 206, z, 10},
+                        {222.0 + hx, 219, z, 7.6}},
+                       {.blend = 10});
+            body.chain({{224.0 + hx, ground - 6, z, 6.6}, {206.0 + hx, ground - 4, z, 5.4}}, {.blend = 4});
+        }
+        Body::Style style;
+        style.palettes = {fur, throat, palettes::black};
+        style.contour = 0.95;
+        style.highlight = 0.05;
+        style.cuts.from = 0.34;
+        style.marking = [](Point q, double) {
+            const double line = 124 + (q.x - 52) * 0.42;
+            return maths::smooth(line - 1, line + 7, q.y) * maths::smooth(116, 92, q.x) *
+                   maths::smooth(180, 164, q.y);
+        };
+        body.engrave(p, style);
+        body.fur(p, {.spacing = 2.5, .length = 9, .width = 0.75, .from = 0.12, .spread = 8});
+        // Wet points of the coat.
+        for (int k = 0; k < 60; ++k) {
+            const Point at{p.random.uniform(108, 250), p.random.uniform(124, 196)};
+            if (!body.toneAt(at))
+                continue;
+            const Point way = body.coatAt(at);
+            for (const double turn : {-14.0, 14.0})
+                p.stroke({rotate(at - way * 6, turn, at), at - way * 2, at + way * 3},
+                         Pen{.width = 0.9, .swell = 0.2, .fade = 0.7});
+        }
+        for (const Point& foot : {Point{90, 227.0}, Point{110, 228.0}, Point{244, 227.0}, Point{222, 228.0}})
+            toes(p, foot + Point{1, 0}, {.length = 19, .height = 7.5, .toes = 4, .claws = 2});
+        // The catch across the jaws.
+        const Fish fish({{22, 138}, {52, 130}, {84, 142}}, {2, 7, 9, 9, 7, 4, 2.5},
+                        {2, 7, 9.5, 9, 7, 4, 2.5});
+        const double end = fish.length();
+        fin(p, fish,
+            {{{end - 3, -2},
+              {end + 8, -9},
+              {end + 14, -11},
+              {end + 11, 0},
+              {end + 14, 11},
+              {end + 8, 9},
+              {end - 3, 2}},
+             {end - 2, -2},
+             {end - 2, 2},
+             {end + 15, -10},
+             {end + 15, 10},
+             7,
+             palettes::silver});
+        fin(p, fish,
+            {{{26, -8}, {30, -15}, {36, -13}, {38, -7}},
+             {27, -8},
+             {37, -7},
+             {30, -16},
+             {39, -11},
+             6,
+             palettes::silver});
+        const ReliefSurface skin =
+            fish.engrave(p, {.back = palettes::slate, .flank = palettes::silver, .belly = palettes::chalk});
+        fish.scales(p, skin, 16, end, 3.6, 0.7);
+        fish.gillCover(p, 13);
+        fishEye(p, fish.at(6, -2), 1.7, Colour{0xE8D9A0});
+        // Upper jaw before the fish.
+        Body jaw;
+        jaw.chain({{72, 119, 14, 9}, {60, 123, 14, 9.4}, {53, 124, 14, 8.6}}, {.blend = 5, .coat = 8});
+        jaw.chain({{46, 120, 16, 3.8}, {50, 118, 17, 3.2}}, {.blend = 1.5, .palette = 2});
+        Body::Style lip = style;
+        lip.marking = {};
+        lip.contour = 0.6;
+        lip.shade = 0.1;
+        jaw.engrave(p, lip);
+        jaw.fur(p, {.spacing = 2.5, .length = 6, .width = 0.6, .from = 0.12, .spread = 10});
+        eye(p, {68, 112}, {.radius = 2.9, .iris = Colour{0x3A2416}, .degrees = 172, .lid = 1.0});
+        p.stroke(spline({{45, 119}, {47, 118}, {48, 120}}, 5), Pen{.width = 1.0});
+        for (int k = 0; k < 6; ++k) {
+            p.dot({53.0 + 2 * (k % 3), 122 + 1.2 * k}, 0.5);
+            p.stroke(spline({{55, 123.0 + k}, {44, 126.0 + 3 * k}, {36.0 + 2 * k, 134.0 + 5 * k}}, 6),
+                     Pen{.width = 0.5, .swell = 0, .fade = 0.9});
+        }
+        tambrelle::engraver::ground(p, 70, 322, ground - 1, 4);
+        grassTufts(p, 150, 320, ground + 6, 10);
+    }};
