@@ -53,7 +53,7 @@ void wing(Plate& plate, Point shoulder, const WingForm& form) {
                      widths[] = {5.6, 5.2, 4.8, 4.4};
     for (int r = 0; r < form.rows; ++r)
         for (int i = counts[r] - 1; i >= 0; --i) {
-            const double x = starts[r] - i * 1.6 - 8, y = 1 + r + i * (4.9 - 0.3 * r);
+            const double x = starts[r] - i * 2.7 - 5, y = 1 + r + i * (4.9 - 0.3 * r);
             const std::optional<Palette> mark = form.marked ? form.marked(r, i) : std::nullopt;
             feather(plate, at(x, y), at(x + lengths[r] + 6, y + 4 + i * 0.8),
                     {.palette = mark.value_or(form.coverts),

@@ -112,6 +112,7 @@ void Fish::scales(Plate& plate, const ReliefSurface& skin, double from, double t
 }
 
 void Fish::gillCover(Plate& plate, double x) const {
+    const Plate::Clip clip(plate, outline());
     const double b = backAt(x), e = bellyAt(x), s = 0.16 * (b + e);
     plate.stroke(spline(path({{x - 0.9 * s, -0.72 * b},
                               {x + 0.25 * s, -0.35 * b},

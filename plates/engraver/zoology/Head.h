@@ -56,6 +56,8 @@ struct HeadBuild {
     /// Turn of the lids from the head's axis, degrees.
     double eyeTurn = 30;
     std::vector<FaceLine> lines;
+    /// Outline of a bare, black nose; empty for none.
+    Path nose = {};
 };
 
 /// Equids: long straight face, deep jowl, soft lips.

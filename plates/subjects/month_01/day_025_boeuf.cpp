@@ -25,11 +25,24 @@ static const Subject subject{
         ox.finish(p);
         tuftedTail(p, {{226, 108}, {238, 119}, {240, 152}, {237, 180}}, 3.4, palettes::ginger,
                    palettes::brown);
-        // The neck yoke: a carved beam before the withers with its bow under the throat.
-        const TubeForm wood{.palette = palettes::wood, .lines = Lines::along, .spacing = 1.7, .contour = 0.9};
-        tube(p, {{92, 92}, {88, 116}, {80, 138}, {70, 140}, {68, 126}}, {2.6, 2.6, 2.6}, wood);
-        tube(p, {{112, 96}, {108, 88}, {98, 82}, {88, 84}, {80, 78}, {72, 80}}, {4.5, 6, 7, 6.2, 6, 5}, wood);
-        p.stroke(spline({{66, 90}, {70, 84}, {76, 82}}), {.width = 1.8, .swell = 0, .fade = 0});
+        // The neck yoke: a carved beam lying across the neck, its near end towards the viewer, the bow of
+        // bent wood under the throat and the chain to the load along the flank.
+        const TubeForm wood{.palette = palettes::wood,
+                            .lines = Lines::along,
+                            .spacing = 1.7,
+                            .contour = 0.95,
+                            .cutEnd = true};
+        TubeForm bow = wood;
+        bow.cutEnd = false;
+        tube(p, {{106, 104}, {106, 130}, {98, 154}, {84, 160}, {76, 146}}, {3, 3, 3}, bow);
+        for (int k = 0; k < 15; ++k) {
+            const Point link =
+                lerp({112, 128}, {246, 158}, k / 14.0) + Point{0, 5 * maths::sin(maths::pi * k / 14.0)};
+            p.contour(turned(ellipse(link, 5.4, k % 2 == 0 ? 2.6 : 1.1, 18), 15, link),
+                      {.width = 1.3, .lit = 0.8});
+        }
+        tube(p, {{124, 84}, {112, 92}, {100, 100}, {90, 112}}, {7, 8.4, 9, 9.6}, wood);
+        p.stroke(spline({{108, 84}, {112, 92}, {110, 100}}), Pen{.width = 1.0});
         horn(p, {{66, 84}, {76, 76}, {80, 62}, {72, 50}}, {5, 4.3, 3, 0.7}, {.tip = palettes::black});
         ground(p, 56, 250, 233);
     }};

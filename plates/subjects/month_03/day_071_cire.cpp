@@ -34,7 +34,7 @@ static const Subject subject{
         run.bevel = 5;
         run.shade = 0.2;
         run.spacing = 2;
-        const Point a = candle({118, 216}, 118, 17);
+        const Point a = candle({120, 232}, 136, 17);
         relief(p,
                closedSpline({a + Point{-17, 0}, a + Point{-8, 3.4}, a + Point{-7, 16}, a + Point{-9, 34},
                              a + Point{-7, 46}, a + Point{-11, 52}, a + Point{-15, 46}, a + Point{-14, 30},
@@ -73,7 +73,7 @@ static const Subject subject{
         p.contour(tongue, {.width = 0.85, .lit = 0.7});
         p.stroke({wick + Point{-2, 11}, wick + Point{-1, 4}, wick + Point{0.5, -3}},
                  Pen{.width = 1.8, .swell = 0, .fade = 0.2});
-        candle({76, 224}, 76, 13);
+        candle({78, 238}, 92, 13);
 
         // The cake: a low turned loaf with a wedge broken out to the right.
         LatheForm loaf;

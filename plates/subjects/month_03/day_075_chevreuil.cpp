@@ -38,7 +38,7 @@ static const Subject subject{
         Body body = roe.body();
         Body::Style style = coat({palettes::ginger, palettes::whiteflower, palettes::black});
         style.marking = [](Point q, double z) {
-            const double rump = maths::smooth(1.0, 0.75, length(Point{(q.x - 216) / 13, (q.y - 133) / 20}));
+            const double rump = maths::smooth(1.0, 0.8, length(Point{(q.x - 216) / 19, (q.y - 130) / 25}));
             const double chin = maths::smooth(81, 85, q.y) * maths::smooth(66, 60, q.x);
             const double belly = maths::smooth(152, 157, q.y) * maths::smooth(122, 132, q.x) *
                                  maths::smooth(182, 174, q.x) * maths::smooth(-30, 10, z);

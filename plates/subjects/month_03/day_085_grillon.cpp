@@ -92,7 +92,7 @@ static const Subject subject{
         }
         p.stroke(spline({{98, 142}, {100, 166}, {96, 198}}), Pen{.width = 0.8, .swell = 0.3, .fade = 0.4});
         // Face: eye, mouth parts, roots of the antennae.
-        eye(p, {56, 168}, {.radius = 6.2, .iris = Colour{0x2C1C14}, .pupilSize = 0.5, .lid = 0});
+        eye(p, {56, 168}, {.radius = 5.4, .iris = Colour{0x4A3424}, .pupilSize = 0.3, .lid = 0});
         for (int k = 0; k < 2; ++k)
             tube(p, {{50.0 + 8 * k, 198}, {46.0 + 9 * k, 208}, {52.0 + 9 * k, 217}}, {2.2, 1.7, 1.3}, leg);
         p.stroke(spline({{46, 186}, {54, 194}, {66, 196}}), Pen{.width = 1.0});

@@ -70,8 +70,8 @@ static const Subject subject{
         head.chain({local(19, -14, -2, 11), local(23, -31, 0, 5), local(25, -40, 0, 1.2)},
                    {.blend = 4, .depth = 0.55, .coat = -80});
         head.chain({local(0, -3, 0, 26), local(0, 3, 0, 25.5)}, {.blend = 6, .coat = -90});
-        head.chain({local(-14, 9, 3, 17.5), local(-17, 10, 3, 15)}, {.blend = 9, .coat = 160});
-        head.chain({local(14, 9, 3, 17.5), local(17, 10, 3, 15)}, {.blend = 9, .coat = 20});
+        head.chain({local(-13, 6, 3, 16.5), local(-19, 6, 2, 12)}, {.blend = 9, .coat = 160});
+        head.chain({local(13, 6, 3, 16.5), local(19, 6, 2, 12)}, {.blend = 9, .coat = 20});
         head.chain({local(0, -12, 18, 9), local(0, 2, 23, 7.5), local(0, 7, 27, 5)},
                    {.blend = 9, .coat = -90});
         head.chain({local(-5.5, 13.5, 22, 8.2)}, {.blend = 3, .palette = 2, .coat = 170});
@@ -110,7 +110,7 @@ static const Subject subject{
                                 5),
                          Pen{.width = 0.6, .swell = 0.1, .fade = 0.8});
             eye(p, at(11.5, -1),
-                {.radius = 5.6,
+                {.radius = 6.1,
                  .iris = Colour{0xC7B64E},
                  .pupil = EyeForm::Pupil::slit,
                  .pupilSize = 0.52,

@@ -12,7 +12,7 @@ static const Subject subject{
         Quadruped bull = cattle();
         bull.trunk = {{96, 126, 0, 36},  {118, 128, 0, 39}, {156, 132, 0, 34},
                       {192, 126, 0, 27}, {212, 121, 0, 23}, {222, 124, 0, 16}};
-        bull.swellings = {{{98, 92, 0, 15}, {120, 94, 0, 14}, {150, 102, 0, 8}},
+        bull.swellings = {{{98, 97, 0, 13}, {120, 99, 0, 10}, {150, 103, 0, 7}},
                           {{204, 106, 0, 9}, {220, 108, 0, 8}},
                           {{90, 160, 0, 10}, {80, 152, 0, 8}, {70, 146, 0, 5}}};
         bull.neck = {{100, 118, 0, 36}, {82, 118, 0, 31}, {66, 126, 0, 22}};
@@ -28,13 +28,15 @@ static const Subject subject{
         Body body = bull.body();
         body.chain({{196, 160, 6, 7}, {198, 168, 6, 8}}, {.blend = 5});
         Body::Style style =
-            darkCoat({mix(palettes::brown, palettes::black, 0.75), palettes::black, palettes::darkgrey});
+            darkCoat({Palette{0x94704F, 0x563825, 0x2A1B12}, palettes::black, palettes::darkgrey});
+        style.ambient = 0.06;
+        style.highlight = 0.02;
         horn(p, {{50, 114}, {40, 110}, {31, 100}, {31, 91}}, {5, 4.2, 2.6, 0.7}, {.tip = palettes::black});
         body.engrave(p, style);
         body.fur(p, {.spacing = 2.4,
                      .length = 5,
-                     .width = 0.8,
-                     .from = 0.15,
+                     .width = 1.1,
+                     .from = 0.0,
                      .spread = 50,
                      .curl = 150,
                      .where = [](Point q) { return q.x < 72 && q.x > 42 && q.y < 128 - (q.x - 60) * 0.2; }});

@@ -17,12 +17,15 @@ static const Subject subject{
             body.chain({{x, 176, 14, 2.4}, {x - 1, 184, 14, 1.5}}, {.blend = 3, .palette = 2});
         body.chain({{204, 172, 2, 2.2}, {204, 180, 2, 1.4}}, {.blend = 3, .palette = 2});
         Body::Style style = coat({palettes::whiteflower, palettes::brown, palettes::pink});
-        style.marking = [pied = patches(12, 0.42, 46)](Point q, double z) {
-            const double face = maths::smooth(3.2, 1.5, std::fabs(q.x - 47 + (q.y - 116) * 0.55)) * 0.0;
-            const double head = maths::smooth(84, 78, q.x) * maths::smooth(138, 132, q.y) *
-                                maths::smooth(1.0, 5.0, (q.x - 57) + (q.y - 94) * 0.60 + 4);
-            const double legs = maths::smooth(186, 178, q.y);
-            return std::max({pied(q, z) * legs * maths::smooth(82, 90, q.x), head, face});
+        style.marking = [pied = patches(12, 0.42, 46), &cow](Point q, double z) {
+            const Point d = q - cow.head.poll;
+            const double u = dot(d, direction(cow.head.degrees)) / cow.head.length;
+            const double v = dot(d, direction(cow.head.degrees - 90)) / cow.head.length;
+            const double blaze = maths::smooth(-0.10, -0.14, v) * maths::smooth(0.0, 0.1, u);
+            const double neck =
+                maths::smooth(106, 99, q.x + 0.3 * (q.y - 120)) * maths::smooth(158, 150, q.y);
+            return std::max(pied(q, z) * maths::smooth(186, 178, q.y) * maths::smooth(104, 112, q.x),
+                            neck * (1 - blaze));
         };
         horn(p, {{58, 82}, {49, 76}, {47, 67}, {52, 60}}, {3.4, 2.9, 0.8}, {.tip = palettes::black});
         body.engrave(p, style);

@@ -9,8 +9,8 @@ static const Subject subject{
     "day_235_carpe", [](Plate& p) {
         constexpr Palette gold{0xF4E2B0, 0xCBA458, 0x7A5A28}, olive{0xC6BA7C, 0x86803E, 0x4A4820},
             amber{0xEBCB96, 0xC08A4C, 0x74481F};
-        const Fish carp({{40, 170}, {150, 170}, {262, 172}}, {8, 26, 40, 48, 48, 42, 32, 21, 13, 12},
-                        {9, 20, 32, 40, 43, 40, 30, 20, 13, 12});
+        const Fish carp({{40, 170}, {150, 170}, {262, 172}}, {8, 25, 39, 47, 50, 48, 42, 31, 19, 13},
+                        {9, 20, 32, 40, 43, 42, 37, 27, 17, 12});
         const double end = carp.length();
         fin(p, carp,
             {{{end - 6, -11},

@@ -39,6 +39,9 @@ static const Subject subject{
             drake.chain({{92, 80, 0, 16}, {82, 86, 0, 11}}, {.blend = 7, .palette = 3, .coat = 20});
             Body::Style style = plumed({flank, chest, palettes::whiteflower, green});
             style.highlight = 0.05;
+            style.marking = [](Point q, double) {
+                return maths::smooth(128, 112, q.x - 0.25 * (q.y - 170)) * maths::smooth(124, 132, q.y);
+            };
             drake.engrave(p, style);
             drake.plumage(
                 p, {.spacing = 9, .size = 8, .width = 0.5, .where = [](Point q) { return q.y >= 132; }});

@@ -10,30 +10,32 @@ using namespace tambrelle::engraver;
 // band from the eye to the nose; all four feet on a crag.
 static const Subject subject{
     "day_285_chamois", [](Plate& p) {
-        const Path crag = closedSpline({{70, 214},
+        const Path crag = closedSpline({{62, 220},
+                                        {72, 210},
                                         {92, 206},
-                                        {116, 207},
-                                        {134, 214},
-                                        {160, 211},
-                                        {184, 206},
-                                        {218, 207},
-                                        {240, 216},
-                                        {248, 238},
-                                        {262, 262},
-                                        {250, 274},
-                                        {150, 278},
-                                        {62, 274},
-                                        {50, 262},
-                                        {60, 238}},
-                                       4);
+                                        {116, 208},
+                                        {136, 213},
+                                        {160, 210},
+                                        {188, 206},
+                                        {220, 208},
+                                        {236, 218},
+                                        {246, 236},
+                                        {264, 246},
+                                        {222, 252},
+                                        {150, 249},
+                                        {84, 254},
+                                        {40, 247},
+                                        {54, 236}},
+                                       3);
         ReliefForm rock;
         rock.palette = palettes::stone;
-        rock.height = [noise = Noise(31, 4, 0.55)](Point q, double depth) {
-            const double steps = std::floor((q.y - 206 + 8 * noise(q.x / 40, q.y / 30)) / 15) * 7;
-            return std::min(8 + depth * 1.5, 30 + steps + 6 * noise(q.x / 17, q.y / 11));
+        rock.height = [broad = Noise(31, 3, 0.5), fine = Noise(8, 3, 0.6)](Point q, double depth) {
+            return std::min(3 + depth * 1.25,
+                            17 + 5 * broad((q.x + 0.6 * q.y) / 26, (q.y - 0.3 * q.x) / 15)) +
+                   1.3 * fine(q.x / 7, q.y / 5);
         };
         rock.creases = true;
-        rock.hatchFrom = 0.3;
+        rock.hatchFrom = 0.34;
         relief(p, crag, rock);
 
         Quadruped goat;

@@ -8,12 +8,12 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_315_brebis", [](Plate& p) {
         Quadruped ewe = sheep();
-        ewe.ears = {{.at = {0.04, 0.02}, .z = 0.24, .degrees = 18, .length = 21, .width = 4.4, .bend = 20}};
+        ewe.ears = {{.at = {0.06, 0.04}, .z = 0.30, .degrees = 14, .length = 25, .width = 5.4, .bend = 20}};
         ewe.foreFar = {-8, -10};
         Body body = ewe.body();
         addFleece(body, ewe.trunk, 4.6, p.random);
         addFleece(body, {{100, 122, 0, 24}, {90, 106, 0, 19}}, 4.2, p.random);
-        body.chain({{74, 76, 2, 9}, {84, 76, 0, 10}}, {.blend = 5});
+        body.chain({{74, 80, 2, 8}, {84, 84, 0, 10}}, {.blend = 5});
         body.chain({{214, 126, 0, 7}, {222, 136, 0, 6}, {224, 150, 0, 4}}, {.blend = 5});
         Body::Style style = coat({palettes::fleece, palettes::cream});
         style.marking = [](Point q, double) {

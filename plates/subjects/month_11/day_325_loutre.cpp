@@ -12,11 +12,11 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_325_loutre", [](Plate& p) {
         constexpr Palette fur{0xC4A078, 0x7F5A38, 0x412A1A}, throat{0xF4EAD8, 0xD8C6A6, 0x96805E};
-        waterLines(p, 30, 330, 236, 6);
+        waterLines(p, 30, 330, 222, 7);
         Body body;
-        const double ground = 228;
+        const double ground = 212;
         body.chain(
-            {{112, 158, 0, 22}, {138, 152, 0, 26}, {172, 146, 0, 29}, {206, 156, 0, 30}, {226, 172, 0, 25}},
+            {{112, 158, 0, 22}, {138, 152, 0, 26}, {172, 152, 0, 27}, {206, 160, 0, 28}, {226, 170, 0, 24}},
             {.blend = 16, .coat = 8});
         body.chain({{226, 176, 0, 20},
                     {252, 198, -4, 14},
@@ -37,7 +37,7 @@ static const Subject subject{
         for (const double side : {-1.0, 1.0}) {
             const double z = side * 14, dx = side < 0 ? -20 : 0;
             body.chain({{120, 168, z, 16},
-                        {114.0 + dx * 0.6, 190, z, 11},
+                        {114.0 + dx * 0.6, 184, z, 12},
                         {112.0 + dx, 210, z, 8.6},
                         {110.0 + dx, 221, z, 7.4}},
                        {.blend = 9});
@@ -72,7 +72,8 @@ static const Subject subject{
                 p.stroke({rotate(at - way * 6, turn, at), at - way * 2, at + way * 3},
                          Pen{.width = 0.9, .swell = 0.2, .fade = 0.7});
         }
-        for (const Point& foot : {Point{90, 227.0}, Point{110, 228.0}, Point{244, 227.0}, Point{222, 228.0}})
+        for (const Point& foot :
+             {Point{90, ground - 1}, Point{110, ground}, Point{246, ground - 1}, Point{224, ground}})
             toes(p, foot + Point{1, 0}, {.length = 19, .height = 7.5, .toes = 4, .claws = 2});
         // The catch across the jaws.
         const Fish fish({{22, 138}, {52, 130}, {84, 142}}, {2, 7, 9, 9, 7, 4, 2.5},
