@@ -1,4 +1,5 @@
 #include "plates/engraver/Ground.h"
+#include "plates/engraver/Relief.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
 #include "plates/engraver/zoology/Quadruped.h"
@@ -17,20 +18,6 @@ static const Subject subject{
         pig.neck = {{110, 142, 0, 33}, {97, 136, 0, 28}};
         pig.head = {{92, 124}, 156, 64};
         pig.headBuild = &porcineHead();
-        pig.ears = {{.at = {0.10, -0.20},
-                     .z = -0.2,
-                     .degrees = 205,
-                     .length = 30,
-                     .width = 10,
-                     .bend = -80,
-                     .open = false},
-                    {.at = {-0.02, -0.16},
-                     .z = 0.32,
-                     .degrees = 168,
-                     .length = 40,
-                     .width = 13,
-                     .bend = -110,
-                     .open = false}};
         pig.elbow = {102, 168};
         pig.hip = {196, 150};
         pig.bone = 1.0;
@@ -45,6 +32,16 @@ static const Subject subject{
         pig.hoofs = palettes::dun;
         tube(p, {{226, 136}, {238, 128}, {245, 136}, {237, 143}, {232, 135}, {239, 127}, {249, 127}},
              {3.2, 2.6, 2.2, 1.0}, {.palette = skin, .spacing = 1.6, .contour = 0.8});
+        ReliefForm lop;
+        lop.palette = skin;
+        lop.bevel = 10;
+        lop.heightScale = 0.7;
+        lop.spacing = 1.9;
+        relief(p,
+               closedSpline(pig.head.path(
+                                {{-0.06, -0.26}, {0.02, -0.52}, {0.16, -0.66}, {0.22, -0.50}, {0.24, -0.24}}),
+                            8),
+               lop);
         Body body = pig.body();
         body.engrave(p, coat({skin, skin, disc}));
         body.fur(p,
@@ -52,6 +49,33 @@ static const Subject subject{
                       return q.y < 140 && q.x > 92;
                   }});
         pig.finish(p);
+        // The near ear lops forward over the brow.
+        const Path ear = closedSpline(pig.head.path({{-0.10, -0.30},
+                                                     {0.06, -0.37},
+                                                     {0.26, -0.27},
+                                                     {0.42, -0.10},
+                                                     {0.47, 0.06},
+                                                     {0.36, 0.10},
+                                                     {0.20, 0.12},
+                                                     {0.02, 0.06},
+                                                     {-0.10, -0.10}}),
+                                      8);
+        relief(p, ear, lop);
+        p.stroke(spline(pig.head.path({{-0.04, -0.18}, {0.14, -0.20}, {0.34, -0.06}})),
+                 Pen{.width = 0.6, .swell = 0.3, .fade = 0.6});
+        p.stroke(spline(pig.head.path({{-0.02, -0.06}, {0.14, -0.06}, {0.30, 0.02}})),
+                 Pen{.width = 0.5, .swell = 0.3, .fade = 0.6});
+        // The disc of the snout with its nostrils.
+        const Point rooter = pig.head.at(1.06, 0.085);
+        ReliefForm snout;
+        snout.palette = disc;
+        snout.bevel = 4;
+        snout.heightScale = 0.8;
+        relief(p, turned(ellipse(rooter, 5.2, 11.4), pig.head.degrees - 180, rooter), snout);
+        for (const double v : {0.025, 0.14}) {
+            const Point nostril = pig.head.at(1.065, v);
+            p.ink(turned(ellipse(nostril, 1.5, 2.5, 16), pig.head.degrees - 180, nostril), sepia, 0.9);
+        }
         ground(p, 60, 240, 233);
         grassTufts(p, 64, 240, 239, 6);
     }};

@@ -60,18 +60,19 @@ static const Subject subject{
                          Pen{.width = 0.85, .swell = 0.4, .fade = 0.2});
 
         // The head on its own, turned to the viewer.
-        const Point c{112, 88};
+        const Point c{112, 97};
+        constexpr double k = 1.2;
         Body head;
         const auto local = [&c](double x, double y, double z, double r) {
-            return Joint{c.x + x, c.y + y, z, r};
+            return Joint{c.x + k * x, c.y + k * y, k * z, k * r};
         };
-        head.chain({local(-19, -14, -2, 11), local(-23, -31, 0, 5), local(-25, -40, 0, 1.2)},
+        head.chain({local(-14, -15, -2, 11), local(-19.5, -29, 0, 5.5), local(-23, -40, 0, 1.0)},
                    {.blend = 4, .depth = 0.55, .coat = -100});
-        head.chain({local(19, -14, -2, 11), local(23, -31, 0, 5), local(25, -40, 0, 1.2)},
+        head.chain({local(14, -15, -2, 11), local(19.5, -29, 0, 5.5), local(23, -40, 0, 1.0)},
                    {.blend = 4, .depth = 0.55, .coat = -80});
         head.chain({local(0, -3, 0, 26), local(0, 3, 0, 25.5)}, {.blend = 6, .coat = -90});
-        head.chain({local(-13, 6, 3, 16.5), local(-19, 6, 2, 12)}, {.blend = 9, .coat = 160});
-        head.chain({local(13, 6, 3, 16.5), local(19, 6, 2, 12)}, {.blend = 9, .coat = 20});
+        head.chain({local(-13, 7, 3, 16), local(-22, 7, 1, 9.5)}, {.blend = 9, .coat = 160});
+        head.chain({local(13, 7, 3, 16), local(22, 7, 1, 9.5)}, {.blend = 9, .coat = 20});
         head.chain({local(0, -12, 18, 9), local(0, 2, 23, 7.5), local(0, 7, 27, 5)},
                    {.blend = 9, .coat = -90});
         head.chain({local(-5.5, 13.5, 22, 8.2)}, {.blend = 3, .palette = 2, .coat = 170});
@@ -80,7 +81,7 @@ static const Subject subject{
         Body::Style face = style;
         face.edge = 3.4;
         face.marking = [c](Point q, double) {
-            const double x = std::fabs(q.x - c.x), y = q.y - c.y;
+            const double x = std::fabs(q.x - c.x) / k, y = (q.y - c.y) / k;
             // The M of the forehead and the bars of the cheeks.
             const double crown = maths::smooth(0.1, 0.6, maths::cos(x * 0.72 - 0.4)) *
                                  maths::smooth(-9, -13, y) * maths::smooth(17, 13, x);
@@ -95,22 +96,22 @@ static const Subject subject{
         head.fur(
             p,
             {.spacing = 2.3, .length = 5, .width = 0.45, .from = 0.12, .spread = 12, .where = [c](Point q) {
-                 return length(Point{std::fabs(q.x - c.x) - 11.5, q.y - c.y + 2}) > 8.5;
+                 return length(Point{std::fabs(q.x - c.x) - 11.5 * k, q.y - c.y + 2}) > 9.5;
              }});
         for (const double s : {-1.0, 1.0}) {
-            const auto at = [&c, s](double x, double y) { return c + Point{s * x, y}; };
+            const auto at = [&c, s](double x, double y) { return c + Point{k * s * x, k * y}; };
             // Hollow of the ear with its fringe.
             const Path hollow = closedSpline(
-                {at(13, -24), at(18, -27), at(23.5, -36.5), at(25.5, -27), at(24.5, -17), at(18, -19)}, 6);
+                {at(10, -25), at(15.5, -28), at(21.8, -37), at(22.6, -27), at(21, -18), at(15, -20)}, 6);
             p.flat(hollow, Colour{0xD9A091}, 0.75);
-            p.stroke(spline({at(13, -23), at(18, -27), at(23.5, -36)}, 6), Pen{.width = 0.6});
-            for (int k = 0; k < 6; ++k)
-                p.stroke(spline({at(13.5 + k * 1.9, -19.5 + 0.4 * k), at(16 + k * 1.4, -24),
-                                 at(18.5 + k * 1.0, -29 + k)},
+            p.stroke(spline({at(10, -24), at(15.5, -28), at(21.8, -36.5)}, 6), Pen{.width = 0.6});
+            for (int j = 0; j < 6; ++j)
+                p.stroke(spline({at(11 + j * 1.9, -19.5 + 0.4 * j), at(13.5 + j * 1.4, -24),
+                                 at(16 + j * 1.0, -29 + j)},
                                 5),
                          Pen{.width = 0.6, .swell = 0.1, .fade = 0.8});
             eye(p, at(11.5, -1),
-                {.radius = 6.1,
+                {.radius = 7.2,
                  .iris = Colour{0xC7B64E},
                  .pupil = EyeForm::Pupil::slit,
                  .pupilSize = 0.52,
@@ -122,28 +123,36 @@ static const Subject subject{
                      Pen{.width = 0.7, .swell = 0.4, .fade = 0.5});
             p.stroke(spline({at(17.5, -2), at(23, -1.6), at(28, 0.5)}, 5),
                      Pen{.width = 1.1, .swell = 0.1, .fade = 0.8});
+            for (int j = 0; j < 9; ++j)
+                p.stroke(spline({at(26 + 0.3 * j, 1 + 2.0 * j), at(29 + 0.1 * j, 4 + 2.0 * j),
+                                 at(32.5 - 0.5 * j, 8 + 2.0 * j)},
+                                5),
+                         Pen{.width = 0.7, .swell = 0.2, .fade = 0.8});
             // Mouth and whiskers.
-            p.stroke(spline({c + Point{0, 14}, at(2.6, 17.6), at(7, 18.2), at(11, 15.6)}, 6),
+            p.stroke(spline({c + Point{0, 14} * k, at(2.6, 17.6), at(7, 18.2), at(11, 15.6)}, 6),
                      Pen{.width = 1.1, .swell = 0.1, .fade = 0.5});
-            for (int k = 0; k < 5; ++k) {
-                const double y = 10.4 + 1.6 * k;
-                p.dot(at(5 + 1.6 * (k % 3), y), 0.55);
-                p.stroke(spline({at(7.5, y), at(28, y - 5 + 2.6 * k),
-                                 at(46 - 2 * std::fabs(k - 2.0), y - 7 + 5.4 * k)},
+            for (int j = 0; j < 5; ++j) {
+                const double y = 10.4 + 1.6 * j;
+                p.dot(at(5 + 1.6 * (j % 3), y), 0.55);
+                p.stroke(spline({at(7.5, y), at(28, y - 5 + 2.6 * j),
+                                 at(46 - 2 * std::fabs(j - 2.0), y - 7 + 5.4 * j)},
                                 8),
                          Pen{.width = 0.55, .swell = 0.05, .fade = 0.9});
             }
         }
-        const Path nose = closedSpline({c + Point{-4.4, 7}, c + Point{0, 6}, c + Point{4.4, 7},
-                                        c + Point{3.2, 9.6}, c + Point{0, 12}, c + Point{-3.2, 9.6}},
-                                       5);
+        const Path nose =
+            closedSpline({c + Point{-4.4, 7} * k, c + Point{0, 6} * k, c + Point{4.4, 7} * k,
+                          c + Point{3.2, 9.6} * k, c + Point{0, 12} * k, c + Point{-3.2, 9.6} * k},
+                         5);
         p.knockOut(nose, {.halo = 0, .shade = 0});
         p.flat(nose, Colour{0xCB8478});
         p.contour(nose, {.width = 0.9, .lit = 0.7});
         for (const double s : {-1.0, 1.0})
-            p.stroke(spline({c + Point{s * 1.2, 9.2}, c + Point{s * 2.6, 9.4}, c + Point{s * 3.4, 8.4}}, 5),
+            p.stroke(spline({c + Point{s * 1.2, 9.2} * k, c + Point{s * 2.6, 9.4} * k,
+                             c + Point{s * 3.4, 8.4} * k},
+                            5),
                      Pen{.width = 0.9});
-        p.stroke({c + Point{0, 11.6}, c + Point{0, 13}, c + Point{0, 14.6}},
+        p.stroke({c + Point{0, 11.6} * k, c + Point{0, 13} * k, c + Point{0, 14.6} * k},
                  Pen{.width = 0.9, .swell = 0, .fade = 0});
         ground(p, 84, 234, 235);
     }};

@@ -12,9 +12,9 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_325_loutre", [](Plate& p) {
         constexpr Palette fur{0xC4A078, 0x7F5A38, 0x412A1A}, throat{0xF4EAD8, 0xD8C6A6, 0x96805E};
-        waterLines(p, 30, 330, 222, 7);
+        waterLines(p, 30, 330, 218, 7);
         Body body;
-        const double ground = 212;
+        const double ground = 207;
         body.chain(
             {{112, 158, 0, 22}, {138, 152, 0, 26}, {172, 152, 0, 27}, {206, 160, 0, 28}, {226, 170, 0, 24}},
             {.blend = 16, .coat = 8});
@@ -35,20 +35,14 @@ static const Subject subject{
         body.chain({{89, 107, 14, 5}, {91, 101, 14, 3.4}}, {.blend = 2, .depth = 0.6});
         // Legs.
         for (const double side : {-1.0, 1.0}) {
-            const double z = side * 14, dx = side < 0 ? -20 : 0;
-            body.chain({{120, 168, z, 16},
-                        {114.0 + dx * 0.6, 184, z, 12},
-                        {112.0 + dx, 210, z, 8.6},
-                        {110.0 + dx, 221, z, 7.4}},
-                       {.blend = 9});
-            body.chain({{112.0 + dx, ground - 6, z, 6.4}, {98.0 + dx, ground - 4, z, 5}}, {.blend = 4});
-            const double hx = side < 0 ? 22 : 0;
-            body.chain({{216, 172, z, 25},
-                        {214.0 + hx * 0.5, 190, z, 18},
-                        {222.0 + hx, 206, z, 10},
-                        {222.0 + hx, 219, z, 7.6}},
+            const double z = side * 14, dx = side < 0 ? -21 : 0;
+            body.chain(
+                {{120 + dx * 0.3, 168, z, 16}, {116 + dx * 0.7, 184, z, 10.5}, {114 + dx, 198, z, 7.6}},
+                {.blend = 9});
+            body.chain({{115 + dx, ground - 6, z, 6}, {99 + dx, ground - 4.6, z, 4.8}}, {.blend = 4});
+            body.chain({{214 + dx * 0.3, 172, z, 23}, {211 + dx * 0.7, 186, z, 15}, {222 + dx, 196, z, 8.5}},
                        {.blend = 10});
-            body.chain({{224.0 + hx, ground - 6, z, 6.6}, {206.0 + hx, ground - 4, z, 5.4}}, {.blend = 4});
+            body.chain({{225 + dx, ground - 6, z, 6.2}, {203 + dx, ground - 4.8, z, 5}}, {.blend = 4});
         }
         Body::Style style;
         style.palettes = {fur, throat, palettes::black};
@@ -73,7 +67,7 @@ static const Subject subject{
                          Pen{.width = 0.9, .swell = 0.2, .fade = 0.7});
         }
         for (const Point& foot :
-             {Point{90, ground - 1}, Point{110, ground}, Point{246, ground - 1}, Point{224, ground}})
+             {Point{92, ground}, Point{113, ground}, Point{197, ground}, Point{218, ground}})
             toes(p, foot + Point{1, 0}, {.length = 19, .height = 7.5, .toes = 4, .claws = 2});
         // The catch across the jaws.
         const Fish fish({{22, 138}, {52, 130}, {84, 142}}, {2, 7, 9, 9, 7, 4, 2.5},
@@ -108,15 +102,23 @@ static const Subject subject{
         fishEye(p, fish.at(6, -2), 1.7, Colour{0xE8D9A0});
         // Upper jaw before the fish.
         Body jaw;
-        jaw.chain({{72, 119, 14, 9}, {60, 123, 14, 9.4}, {53, 124, 14, 8.6}}, {.blend = 5, .coat = 8});
-        jaw.chain({{46, 120, 16, 3.8}, {50, 118, 17, 3.2}}, {.blend = 1.5, .palette = 2});
+        jaw.chain({{66, 120, 14, 8.2}, {58, 122, 14, 8.6}, {52, 123.5, 14, 8.2}}, {.blend = 5, .coat = 8});
         Body::Style lip = style;
         lip.marking = {};
-        lip.contour = 0.6;
-        lip.shade = 0.1;
+        lip.contour = 0;
+        lip.edge = 30;
+        lip.shade = 0.12;
         jaw.engrave(p, lip);
         jaw.fur(p, {.spacing = 2.5, .length = 6, .width = 0.6, .from = 0.12, .spread = 10});
-        eye(p, {68, 112}, {.radius = 2.9, .iris = Colour{0x3A2416}, .degrees = 172, .lid = 1.0});
+        const Path nose = closedSpline({{43.4, 121}, {45, 117.4}, {49, 116.8}, {50.4, 119.6}, {47, 123}}, 6);
+        p.knockOut(nose, {.halo = 0.2, .shade = 0});
+        p.flat(nose, palettes::black, 0.7);
+        p.contour(nose, 0.9);
+        p.flat(ellipse({46.4, 118.8}, 1.2, 0.7, 12), white, 0.75);
+        p.stroke(spline({{45, 124}, {49, 130.4}, {58, 132.4}, {68, 130}}),
+                 Pen{.width = 1.1, .swell = 0.2, .fade = 0.5});
+        p.stroke(spline({{50, 114}, {58, 109.5}, {66, 104}}), Pen{.width = 0.6, .swell = 0.4, .fade = 0.4});
+        eye(p, {69, 111}, {.radius = 2.9, .iris = Colour{0x3A2416}, .degrees = 172, .lid = 1.0});
         p.stroke(spline({{45, 119}, {47, 118}, {48, 120}}, 5), Pen{.width = 1.0});
         for (int k = 0; k < 6; ++k) {
             p.dot({53.0 + 2 * (k % 3), 122 + 1.2 * k}, 0.5);
