@@ -44,7 +44,15 @@ std::vector<Quadruped::Limb> Quadruped::limbs() const {
                              s.radius * thick * (nearSide || s.t >= 0.4 ? 1.0 : 0.88)};
             };
             const auto add = [&](const Station& s) {
-                (s.t < joint ? limb.upper : limb.lower).push_back(place(s));
+                const Joint here = place(s);
+                // The lower leg begins at the last joint of the upper.
+                if (s.t < joint) {
+                    limb.upper.push_back(here);
+                    limb.lower.assign(1, here);
+                } else {
+                    limb.lower.push_back(here);
+                    limb.footX = here.x;
+                }
             };
             if (fore)
                 for (const Station& s : foreStations)
@@ -52,8 +60,6 @@ std::vector<Quadruped::Limb> Quadruped::limbs() const {
             else
                 for (const Station& s : hindStations)
                     add(s);
-            limb.lower.insert(limb.lower.begin(), limb.upper.back());
-            limb.footX = limb.lower.back().x;
             out.push_back(limb);
         }
     return out;

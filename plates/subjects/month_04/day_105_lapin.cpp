@@ -74,8 +74,8 @@ static const Subject subject{
         for (const Point& foot : {Point{90, 231.0}, Point{138, 232.0}})
             for (const double k : {-5.0, -1.4, 2.2})
                 p.stroke(
-                    spline({foot + Point{k + 1.6, -6}, foot + Point{k, -3}, foot + Point{k - 0.3, 0}}, 5),
-                    Pen{.width = 0.85, .swell = 0.4, .fade = 0.2});
+                    spline({foot + Point{k + 2.2, -8}, foot + Point{k, -4}, foot + Point{k - 0.4, 0}}, 5),
+                    Pen{.width = 1.3, .swell = 0.4, .fade = 0.2});
         ground(p, 66, 238, 231);
         grassTufts(p, 70, 236, 237, 9);
     }};

@@ -2,7 +2,6 @@
 #include "plates/engraver/Ground.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/zoology/Eye.h"
-#include "plates/engraver/zoology/Foot.h"
 
 using namespace tambrelle::engraver;
 
@@ -12,6 +11,7 @@ static const Subject subject{
     "day_115_chat", [](Plate& p) {
         constexpr Palette light{0xEFE7D8, 0xC2B39C, 0x7C6C58}, stripe{0xB5A58E, 0x6E5E4C, 0x3A2E24},
             bib{0xFFFFFF, 0xF2EDE2, 0xB8AE9C};
+        ground(p, 84, 238, 236);
         Body body;
         body.chain({{136, 138, 0, 25}, {146, 164, 0, 32}, {162, 190, 0, 39}, {168, 204, 0, 33}},
                    {.blend = 20, .coat = 76});
@@ -56,8 +56,8 @@ static const Subject subject{
         body.fur(p, {.spacing = 2.5, .length = 6, .width = 0.5, .from = 0.22, .spread = 12});
         for (const Point& toe : {Point{113, 233.5}, Point{139, 234}})
             for (const double k : {-10.5, -7.0, -3.6})
-                p.stroke(spline({toe + Point{k + 1.4, -6}, toe + Point{k, -3}, toe + Point{k, 0}}, 5),
-                         Pen{.width = 0.85, .swell = 0.4, .fade = 0.2});
+                p.stroke(spline({toe + Point{k + 2.2, -10}, toe + Point{k, -5}, toe + Point{k - 0.4, 0}}, 5),
+                         Pen{.width = 1.35, .swell = 0.4, .fade = 0.2});
 
         // The head on its own, turned to the viewer.
         const Point c{112, 97};
@@ -90,12 +90,13 @@ static const Subject subject{
             const double ear = maths::smooth(-27, -34, y);
             return 0.9 * std::max({crown, cheek, ear});
         };
-        face.crossFrom = 0.8;
-        face.cuts.from = 0.4;
+        face.crossFrom = 1;
+        face.ambient = -0.08;
+        face.cuts.from = 0.44;
         head.engrave(p, face);
         head.fur(
             p,
-            {.spacing = 2.3, .length = 5, .width = 0.45, .from = 0.12, .spread = 12, .where = [c](Point q) {
+            {.spacing = 2.3, .length = 5, .width = 0.40, .from = 0.12, .spread = 12, .where = [c](Point q) {
                  return length(Point{std::fabs(q.x - c.x) - 11.5 * k, q.y - c.y + 2}) > 9.5;
              }});
         for (const double s : {-1.0, 1.0}) {
@@ -154,5 +155,4 @@ static const Subject subject{
                      Pen{.width = 0.9});
         p.stroke({c + Point{0, 11.6} * k, c + Point{0, 13} * k, c + Point{0, 14.6} * k},
                  Pen{.width = 0.9, .swell = 0, .fade = 0});
-        ground(p, 84, 234, 235);
     }};

@@ -44,7 +44,7 @@ static const Subject subject{
         bull.finish(p);
         p.stroke(ellipse({24.5, 175}, 4, 5.4),
                  {.width = 1.5, .swell = 0, .fade = 0, .colour = Colour{0x8A6A24}});
-        tuftedTail(p, {{224, 112}, {236, 122}, {238, 154}, {234, 180}}, 3.2, palettes::darkgrey,
-                   palettes::black);
+        tuftedTail(p, {{224, 112}, {236, 122}, {238, 154}, {234, 180}}, 3.2,
+                   Palette{0x6A4A32, 0x4A3020, 0x2A1B12}, palettes::black);
         ground(p, 46, 246, 233);
     }};

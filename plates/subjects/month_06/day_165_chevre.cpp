@@ -6,7 +6,7 @@
 
 using namespace tambrelle::engraver;
 
-// The she-goat: short coat, short horns, small beard, two tassels at the throat, long udder of two teats; her
+// The she-goat: short coat, short horns, small beard, long udder of two teats; her
 // kid stands before her.
 static const Subject subject{
     "day_165_chevre", [](Plate& p) {
@@ -35,9 +35,6 @@ static const Subject subject{
         doe.finish(p);
         lock(p, {{57, 113}, {59, 119}, {57, 130}}, {3, 3, 0.3},
              {.palette = palettes::fawn, .strands = 16, .tone = 0.5});
-        for (const Point tassel : {Point{88, 114}, Point{93, 117}})
-            lock(p, {tassel, tassel + Point{0, 6}, tassel + Point{-1, 13}}, {1.6, 2, 1.4},
-                 {.palette = palettes::fawn, .strands = 6, .tone = 0.3});
 
         Quadruped kid = goat();
         kid.trunk = {
@@ -45,15 +42,18 @@ static const Subject subject{
         kid.swellings = {};
         kid.neck = {{104, 130, 0, 18}, {96, 112, 0, 14}, {90, 98, 0, 12}};
         kid.head = {{86, 90}, 140, 46};
+        kid.ears[0].z = 0.36;
         kid.elbow = {105, 146};
         kid.hip = {188, 134};
         kid.bone = 0.86;
+        kid.shoulder = 0;
         kid.foreFar = {-10, -8};
         const Quadruped small = kid.scaled(0.46, {36, 234});
         Body young = small.body();
         young.chain({{112, 186, 0, 2.5}, {118, 181, 0, 2}, {120, 177, 0, 0.8}}, {.blend = 2});
         Body::Style pale = coat({palettes::whiteflower, palettes::fawn});
         pale.contour = 0.8;
+        pale.edge = 1.2;
         pale.marking = patches(5, 0.4, 20);
         young.engrave(p, pale);
         young.fur(p, {.spacing = 2.6, .length = 5, .width = 0.45, .from = 0.35, .spread = 12});

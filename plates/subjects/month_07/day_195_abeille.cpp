@@ -103,7 +103,10 @@ static const Subject subject{
         Body front;
         front.chain({{cx, 112, 0, 28}, {cx, 118, 0, 28}}, {.blend = 4, .coat = 90});
         front.chain({{cx - 6, 72, 0, 18}, {cx + 6, 72, 0, 18}}, {.blend = 4, .coat = -90});
-        Body::Style fuzzy;
+        Body::Style fuzzy = style;
+        fuzzy.marking = {};
+        fuzzy.cuts = {.normal = {0.42, 0.72, 0.55}, .spacing = 2.3, .coverage = 0.48};
+        fuzzy.crossFrom = 0.66;
         fuzzy.palettes = {thorax};
         fuzzy.contour = 0.6;
         fuzzy.cuts.from = 0.45;

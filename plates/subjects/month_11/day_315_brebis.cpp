@@ -8,7 +8,7 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_315_brebis", [](Plate& p) {
         Quadruped ewe = sheep();
-        ewe.ears = {{.at = {0.06, 0.04}, .z = 0.30, .degrees = 14, .length = 25, .width = 5.4, .bend = 20}};
+        ewe.ears = {{.at = {0.06, 0.04}, .z = 0.42, .degrees = 14, .length = 25, .width = 5.4, .bend = 20}};
         ewe.foreFar = {-8, -10};
         Body body = ewe.body();
         addFleece(body, ewe.trunk, 4.6, p.random);
@@ -34,10 +34,11 @@ static const Subject subject{
             {106, 144, 0, 21}, {124, 145, 0, 23}, {150, 144, 0, 23}, {174, 138, 0, 20}, {184, 140, 0, 16}};
         lamb.neck = {{106, 136, 0, 18}, {98, 118, 0, 14}, {92, 104, 0, 12}};
         lamb.head = {{88, 96}, 146, 44};
-        lamb.ears = {{.at = {0.04, 0.04}, .z = 0.24, .degrees = 24, .length = 22, .width = 5, .bend = 20}};
+        lamb.ears = {{.at = {0.04, 0.04}, .z = 0.38, .degrees = 24, .length = 22, .width = 5, .bend = 20}};
         lamb.elbow = {107, 150};
         lamb.hip = {182, 140};
         lamb.bone = 0.95;
+        lamb.shoulder = 0;
         lamb.foreFar = {-12, -14};
         const Quadruped small = lamb.scaled(0.5, {30, 236});
         Body young = small.body();
@@ -45,6 +46,7 @@ static const Subject subject{
         young.chain({{111, 192, 0, 2.6}, {115, 200, 0, 2.4}, {115, 208, 0, 1.6}}, {.blend = 2});
         Body::Style pale = coat({palettes::fleece, palettes::cream});
         pale.contour = 0.8;
+        pale.edge = 1.2;
         young.engrave(p, pale);
         young.fur(p, {.spacing = 3.4,
                       .length = 5,
