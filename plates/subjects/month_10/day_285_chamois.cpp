@@ -1,0 +1,83 @@
+#include "plates/engraver/Noise.h"
+#include "plates/engraver/Relief.h"
+#include "plates/engraver/Subject.h"
+#include "plates/engraver/zoology/Horn.h"
+#include "plates/engraver/zoology/Quadruped.h"
+
+using namespace tambrelle::engraver;
+
+// The chamois: goat of the rocks, slender black horns upright and hooked backwards, pale face with a dark
+// band from the eye to the nose; all four feet on a crag.
+static const Subject subject{
+    "day_285_chamois", [](Plate& p) {
+        const Path crag = closedSpline({{62, 220},
+                                        {72, 210},
+                                        {92, 206},
+                                        {116, 208},
+                                        {136, 213},
+                                        {160, 210},
+                                        {188, 206},
+                                        {220, 208},
+                                        {236, 218},
+                                        {246, 236},
+                                        {264, 246},
+                                        {222, 252},
+                                        {150, 249},
+                                        {84, 254},
+                                        {40, 247},
+                                        {54, 236}},
+                                       3);
+        ReliefForm rock;
+        rock.palette = palettes::stone;
+        rock.height = [broad = Noise(31, 3, 0.5), fine = Noise(8, 3, 0.6)](Point q, double depth) {
+            return std::min(3 + depth * 1.25,
+                            17 + 5 * broad((q.x + 0.6 * q.y) / 26, (q.y - 0.3 * q.x) / 15)) +
+                   1.3 * fine(q.x / 7, q.y / 5);
+        };
+        rock.creases = true;
+        rock.hatchFrom = 0.34;
+        relief(p, crag, rock);
+
+        Quadruped goat;
+        goat.ground = 212;
+        goat.trunk = {{104, 112, 0, 22}, {124, 115, 0, 26}, {152, 116, 0, 26},
+                      {178, 110, 0, 24}, {196, 108, 0, 21}, {206, 114, 0, 14}};
+        goat.swellings = {{{112, 92, 0, 9}, {130, 93, 0, 7}}};
+        goat.neck = {{106, 106, 0, 20}, {98, 88, 0, 15}, {91, 71, 0, 12}};
+        goat.head = {{87, 62}, 138, 43};
+        goat.headBuild = &caprineHead();
+        goat.ears = {
+            {.at = {-0.02, 0.02}, .z = 0.2, .degrees = -28, .length = 20, .width = 3.6, .bend = -24}};
+        goat.elbow = {105, 124};
+        goat.hip = {196, 110};
+        goat.bone = 0.8;
+        goat.muscle = 0.8;
+        goat.shoulder = 14;
+        goat.spread = 9;
+        goat.foreNear = {2, 2};
+        goat.foreFar = {-13, -13};
+        goat.hindFar = {-10, -14};
+        goat.foot = Foot::cloven;
+        Body body = goat.body();
+        body.chain({{212, 104, 0, 5}, {219, 110, 0, 4}, {221, 117, 0, 1.5}}, {.blend = 4});
+        constexpr Palette coatBrown{0xC09A70, 0x84582F, 0x42291A};
+        Body::Style style = darkCoat({coatBrown, palettes::cream, palettes::black});
+        style.marking = [&goat](Point q, double) {
+            // In the head's axes: pale all over but for the band along the cheek.
+            const Point d = q - goat.head.poll, axis = direction(goat.head.degrees);
+            const double u = dot(d, axis) / goat.head.length,
+                         v = dot(d, direction(goat.head.degrees - 90)) / goat.head.length;
+            const double face = maths::smooth(0.02, 0.12, u + 0.25 * v) * maths::smooth(0.42, 0.3, v) *
+                                maths::smooth(-0.1, 0.1, u);
+            const double stripe =
+                maths::smooth(0.10, 0.06, std::fabs(v + 0.045 - 0.02 * u)) * maths::smooth(0.92, 0.8, u);
+            return face * (1 - stripe);
+        };
+        horn(p, {{80, 52}, {78, 36}, {81, 22}, {90, 18}, {95, 26}}, {2.8, 2.5, 2.1, 1.7, 0.5},
+             {.palette = palettes::black, .rings = 6});
+        body.engrave(p, style);
+        body.fur(p, {.spacing = 2.5, .length = 7, .width = 0.6, .from = 0.35, .spread = 11});
+        horn(p, {{85, 51}, {85, 35}, {90, 20}, {100, 16}, {105, 26}}, {3.1, 2.7, 2.3, 1.8, 0.5},
+             {.palette = palettes::black, .rings = 7});
+        goat.finish(p);
+    }};
