@@ -83,8 +83,12 @@ Path envelope(const LatheSurface& s, const LatheForm& form) {
     }
     std::vector<double> low(stations, 1e9), high(stations, -1e9);
     const double span = std::max(last - first, 1e-6);
+    // Stations crowd towards both ends, where an end seen aslant curves fastest.
+    const auto place = [](double k) { return (1 - maths::cos(pi * k / stations)) / 2; };
     for (const Point p : cloud) {
-        const auto k = std::min(static_cast<std::size_t>((p.x - first) / span * stations), stations - 1);
+        const double x = clamp01((p.x - first) / span);
+        const double k0 = 2 * maths::atan2(std::sqrt(x), std::sqrt(1 - x)) / pi * stations;
+        const auto k = std::min(static_cast<std::size_t>(k0), stations - 1);
         low[k] = std::min(low[k], p.y);
         high[k] = std::max(high[k], p.y);
     }
@@ -94,7 +98,7 @@ Path envelope(const LatheSurface& s, const LatheForm& form) {
             continue;
         const double x = first + span * (k == 0              ? 0.0
                                          : k + 1 == stations ? 1.0
-                                                             : (static_cast<double>(k) + 0.5) / stations);
+                                                             : place(static_cast<double>(k) + 0.5));
         left.push_back(s.base + ax * x + sd * low[k]);
         right.push_back(s.base + ax * x + sd * high[k]);
     }
