@@ -86,8 +86,10 @@ void lay(Plate& plate, const Path& spine, double radius, double step, double sla
 } // namespace
 
 void plait(Plate& plate, const Path& spine, double radius, const Palette& palette) {
-    const Path s = tube(plate, spine, radius, {.palette = palette, .spacing = 1.8, .contour = 0.8});
-    lay(plate, s, radius, radius * 1.5, radius * 2.6, 0.8);
+    const double r = radius, end = radius * 0.45; // the rods' ends are tucked in
+    const Path s = tube(plate, spine, {end, r, r, r, r, r, r, r, r, r, end}, {.palette = palette, .spacing = 1.8, .contour = 0.8, .bow = 0});
+    const Path middle(s.begin() + static_cast<std::ptrdiff_t>(s.size() / 24), s.end() - static_cast<std::ptrdiff_t>(s.size() / 24));
+    lay(plate, middle, radius * 0.97, radius * 1.5, radius * 2.6, 0.8);
 }
 
 void rope(Plate& plate, const Path& spine, double radius, const Palette& palette) {

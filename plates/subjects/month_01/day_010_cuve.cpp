@@ -8,5 +8,5 @@ using namespace tambrelle::engraver;
 static const Subject subject{"day_010_cuve", [](Plate& p) {
     const LatheSurface vat = cask(p, {200, 290}, 152, {108, 89}, {.tilt = 0.32});
     mouth(p, vat, {.rim = 5.5, .liquid = palettes::grape, .level = 0.13, .staves = 16});
-    ground(p, 70, 332, 300, 7);
+    ground(p, 66, 336, 312, 7);
 }};

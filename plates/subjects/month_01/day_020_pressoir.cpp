@@ -56,9 +56,12 @@ static const Subject subject{"day_020_pressoir", [](Plate& p) {
     sawnPole(p, {middle + Point{-74, -97}, middle + Point{0, -91}, middle + Point{84, -84}}, {4.4, 4.8, 5});
     block(p, room, {-10, 16, 192}, {240, 54, 226}, {});
     // The spout and its tub.
-    const Point lip = room.at({60, 0, 12});
-    face(p, {lip + Point{-9, -5}, lip + Point{9, -5}, lip + Point{8, 9}, lip + Point{-8, 9}}, {.tone = 0.45, .palette = palettes::wood});
-    for (const double x : {-3.0, 0.0, 3.0})
-        p.stroke({lip + Point{x, 6}, lip + Point{x * 1.1, 26}}, Pen{.width = 1, .fade = 0, .colour = palettes::grape.dark});
-    ground(p, 66, 344, 296, 6);
+    const Point lip = room.at({54, 0, 12});
+    const LatheSurface tub = cask(p, {lip.x, 314}, 24, {24, 27}, {.tilt = 0.3, .staves = 20, .hoops = {0.3, 0.75}, .hoopBreadth = 3.5});
+    mouth(p, tub, {.rim = 2.5, .liquid = palettes::grape, .level = 0.25});
+    face(p, {lip + Point{-9, -5}, lip + Point{9, -5}, lip + Point{7, 8}, lip + Point{-7, 8}}, {.tone = 0.45, .palette = palettes::wood});
+    const Path must{lip + Point{-4, 6}, lip + Point{4, 6}, lip + Point{2.5, 20}, lip + Point{-2.5, 20}};
+    p.flat(must, palettes::grape, 0.7);
+    p.contour(must, 0.7);
+    ground(p, 62, 346, 304, 7);
 }};

@@ -1,4 +1,4 @@
-#include "plates/engraver/Ground.h"
+#include "plates/engraver/Relief.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/carpentry/Iron.h"
 #include "plates/engraver/carpentry/Wood.h"

@@ -1,7 +1,6 @@
 #include "plates/engraver/Ground.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/carpentry/Straw.h"
-#include "plates/engraver/carpentry/Weave.h"
 #include "plates/engraver/carpentry/Wood.h"
 
 using namespace tambrelle::engraver;

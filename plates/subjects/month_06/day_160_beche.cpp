@@ -1,8 +1,8 @@
 #include "plates/engraver/Face.h"
 #include "plates/engraver/Ground.h"
-#include "plates/engraver/Relief.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/carpentry/Iron.h"
+#include "plates/engraver/carpentry/Soil.h"
 #include "plates/engraver/carpentry/Wood.h"
 
 using namespace tambrelle::engraver;
@@ -21,13 +21,8 @@ static const Subject subject{"day_160_beche", [](Plate& p) {
     for (const double u : {128.0, 143.0})
         p.dot(lie.at(u, -1), 1.6);
     // Clods thrown up before the blade.
-    ReliefForm clod;
-    clod.palette = palettes::earth;
-    clod.crossFrom = 0.5;
-    const auto heap = [&](const Path& outline) { relief(p, closedSpline(outline, 8), clod); };
-    heap({{96, 292}, {110, 274}, {134, 268}, {152, 278}, {176, 274}, {206, 280}, {232, 272}, {262, 270}, {290, 280}, {306, 296}, {260, 308}, {200, 312}, {140, 308}});
-    heap({{104, 296}, {116, 282}, {136, 284}, {146, 298}, {126, 308}});
-    heap({{232, 300}, {240, 284}, {262, 280}, {276, 294}, {262, 308}, {242, 310}});
-    heap({{168, 306}, {176, 290}, {198, 290}, {210, 304}, {190, 314}});
-    heap({{306, 302}, {312, 292}, {326, 292}, {332, 304}, {318, 310}});
+    soil(p, {196, 296}, 108, 17);
+    soil(p, {134, 296}, 30, 15);
+    soil(p, {252, 294}, 36, 16);
+    soil(p, {190, 304}, 26, 11);
 }};

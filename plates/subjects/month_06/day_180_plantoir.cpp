@@ -1,9 +1,9 @@
 #include "plates/engraver/Ground.h"
 #include "plates/engraver/Lathe.h"
-#include "plates/engraver/Relief.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/botany/Leaf.h"
 #include "plates/engraver/carpentry/Iron.h"
+#include "plates/engraver/carpentry/Soil.h"
 #include "plates/engraver/carpentry/Wood.h"
 
 using namespace tambrelle::engraver;
@@ -15,9 +15,6 @@ static const Subject subject{"day_180_plantoir", [](Plate& p) {
     p.knockOut(hole, {.halo = 0.6, .shade = 0});
     p.flat(hole, palettes::earth, 0.85);
     p.ink(hole, sepia, 0.55);
-    ReliefForm soil;
-    soil.palette = palettes::earth;
-    soil.crossFrom = 0.55;
     LatheForm iron;
     iron.direction = 84;
     iron.palette = palettes::iron;
@@ -32,7 +29,9 @@ static const Subject subject{"day_180_plantoir", [](Plate& p) {
     lathe(p, lie.at(8, 0), 146, {13, 17, 19, 20, 21, 21}, shaft);
     lathe(p, lie.at(144, 0), 72, {21.5, 20, 16, 10, 2}, iron);
     ferrule(p, lie.at(140, 0), lie.at(150, 0), {22.5, 23, 22.5});
-    relief(p, closedSpline({{98, 300}, {112, 290}, {122, 298}, {150, 307}, {180, 298}, {190, 290}, {204, 300}, {180, 316}, {120, 316}}, 8), soil);
+    soil(p, {106, 300}, 18, 9);
+    soil(p, {194, 300}, 18, 9);
+    soil(p, {150, 308}, 44, 8);
     // The seedling.
     stem(p, {{272, 296}, {270, 256}, {274, 226}}, {4.4, 3.4});
     LeafForm blade;
@@ -46,5 +45,5 @@ static const Subject subject{"day_180_plantoir", [](Plate& p) {
     leaf(p, {{274, 230}, {296, 190}, {312, 162}}, blade);
     blade.width = 11;
     leaf(p, {{274, 230}, {276, 204}, {280, 178}}, blade);
-    relief(p, closedSpline({{226, 302}, {246, 286}, {272, 282}, {298, 286}, {320, 302}, {300, 312}, {248, 312}}, 8), soil);
+    soil(p, {273, 300}, 46, 12);
 }};

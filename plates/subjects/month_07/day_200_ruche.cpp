@@ -12,7 +12,7 @@ static const Subject subject{"day_200_ruche", [](Plate& p) {
     for (const double x : {16.0, 176.0})
         block(p, stand, {x, 6, 0}, {x + 16, 40, 16}, {});
     block(p, stand, {-8, -8, 16}, {214, 60, 28}, {});
-    const Profile radius{98, 101, 100, 96, 88, 75, 56, 30, 6};
+    const Profile radius{96, 101, 103, 102, 97, 88, 73, 50, 10};
     constexpr int rounds = 15;
     constexpr double height = 186;
     TubeForm coil;
@@ -41,7 +41,7 @@ static const Subject subject{"day_200_ruche", [](Plate& p) {
             spine.push_back({foot.x + r * maths::cos(maths::radians(a)), y + sag * maths::sin(maths::radians(a))});
         }
         constexpr double thick = height / rounds * 0.57;
-        tube(p, spine, {thick * 0.7, thick, thick, thick * 0.7}, coil);
+        tube(p, spine, {thick * 0.85, thick, thick, thick * 0.85}, coil);
         const auto stitches = static_cast<int>(r * 0.62);
         for (int j = 0; j < stitches; ++j) {
             const double a = maths::radians(180.0 - 180.0 * (j + 0.5 + p.random.around(0.2)) / stitches);

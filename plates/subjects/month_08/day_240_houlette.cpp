@@ -1,4 +1,3 @@
-#include "plates/engraver/Ground.h"
 #include "plates/engraver/Lathe.h"
 #include "plates/engraver/Relief.h"
 #include "plates/engraver/Subject.h"
@@ -31,5 +30,4 @@ static const Subject subject{"day_240_houlette", [](Plate& p) {
     tube(p, lie.at({{34, 0}, {54, 0}, {76, 0}, {96, 0}}), {2, 8, 11, 10.4}, {.palette = palettes::iron, .spacing = 1.7, .tone = 0.05, .contour = 0.9});
     for (const double u : {76.0, 88.0})
         p.dot(lie.at(u, -1), 1.5);
-    grassTufts(p, 60, 150, 322, 5);
 }};

@@ -21,8 +21,8 @@ static const Subject subject{"day_260_fourche", [](Plate& p) {
     tube(p, lie.at({{156, 0}, {176, 0}, {196, 0}, {212, 0}}), {9, 9.5, 10.5, 6}, iron);
     p.dot(lie.at(168, -1), 1.6);
     // Hay, over and under the tines.
-    for (int k = 0; k < 34; ++k) {
-        const double v = p.random.uniform(-86, 86), u = p.random.uniform(232, 262) - 0.002 * v * v;
+    for (int k = 0; k < 13; ++k) {
+        const double v = p.random.uniform(-40, 40), u = p.random.uniform(222, 246);
         TubeForm stalk;
         stalk.palette = k % 3 == 0 ? palettes::oldleaf : palettes::straw;
         stalk.lines = Lines::none;

@@ -41,8 +41,8 @@ void sheep(Plate& p, Point foot, double size, bool turnedRight) {
 // The sheepfold: wattle hurdles set in a square on the field, three sheep within, the shepherd's hut on wheels.
 static const Subject subject{"day_290_parc", [](Plate& p) {
     ground(p, 40, 360, 296, 8);
-    const Axes field{.origin = {56, 290}, .away = {0.62, -0.52}};
-    constexpr double wide = 218, deep = 150, high = 52;
+    const Axes field{.origin = {70, 296}, .away = {0.6, -0.62}};
+    constexpr double wide = 184, deep = 140, high = 60;
     const auto hurdle = [&](Vector3 a, Vector3 b, std::size_t stakes, double tone) {
         const auto at = [&](double u, double v) {
             const Vector3 q = a + (b - a) * v;
@@ -55,7 +55,7 @@ static const Subject subject{"day_290_parc", [](Plate& p) {
         }
     };
     // The hut stands behind.
-    const Axes yard{.origin = field.at({128, deep + 24, 14}), .away = {0.5, -0.34}};
+    const Axes yard{.origin = field.at({70, deep + 20, 10}), .away = {0.5, -0.34}};
     wheel(p, yard.at({16, 0, 0}), {.radius = 14, .spokes = 6, .rim = 3, .depth = {3, 0}});
     block(p, yard, {0, 0, 6}, {84, 54, 66}, {.tone = 0.05});
     const Path gable{yard.at({0, 0, 66}), yard.at({84, 0, 66})};
@@ -65,9 +65,9 @@ static const Subject subject{"day_290_parc", [](Plate& p) {
     wheel(p, yard.at({70, -4, 0}), {.radius = 16, .spokes = 6, .rim = 3.4, .depth = {3, 0}});
     hurdle({0, deep, 0}, {wide, deep, 0}, 15, 0.38);
     hurdle({0, deep, 0}, {0, 0, 0}, 12, 0.3);
-    sheep(p, field.at({150, 104, 0}), 0.86, true);
-    sheep(p, field.at({54, 92, 0}), 0.9, false);
-    sheep(p, field.at({118, 40, 0}), 1.05, false);
+    sheep(p, field.at({132, 100, 0}), 1.1, true);
+    sheep(p, field.at({46, 96, 0}), 1.1, false);
+    sheep(p, field.at({98, 40, 0}), 1.3, false);
     hurdle({wide, deep, 0}, {wide, 0, 0}, 12, 0.58);
     hurdle({0, 0, 0}, {wide, 0, 0}, 15, 0.34);
     grassTufts(p, 50, 330, 304, 10);

@@ -28,16 +28,16 @@ void tower(Plate& p) {
 void sail(Plate& p, Point hub, double degrees) {
     const Point along = direction(degrees), across = rightOf(along);
     const auto at = [&](double u, double v) { return hub + along * u + across * v; };
-    const Path cloth{at(32, 2), at(128, 2), at(128, 27), at(32, 27)};
+    const Path cloth{at(30, 2), at(130, 2), at(130, 34), at(30, 34)};
     p.knockOut(cloth, {.halo = 0.4, .shade = 0.3});
     p.flat(cloth, Colour{0xF5EEDB}, 0.95);
     for (int k = 0; k <= 12; ++k)
-        p.stroke({at(32 + 8.0 * k, 2), at(32 + 8.0 * k, 27)}, Pen{.width = 1, .swell = 0, .fade = 0, .wobble = 0.05});
-    for (const double v : {2.0, 14.5, 27.0})
-        p.stroke({at(32, v), at(128, v)}, Pen{.width = 1.1, .swell = 0, .fade = 0, .wobble = 0.05});
+        p.stroke({at(30 + 8.33 * k, 2), at(30 + 8.33 * k, 34)}, Pen{.width = 1, .swell = 0, .fade = 0, .wobble = 0.05});
+    for (const double v : {2.0, 18.0, 34.0})
+        p.stroke({at(30, v), at(130, v)}, Pen{.width = 1.1, .swell = 0, .fade = 0, .wobble = 0.05});
     for (int k = 0; k < 12; ++k)
-        for (int j = 0; j < 5; ++j)
-            p.stroke({at(33.5 + 8.0 * k, 16.3 + 2.2 * j), at(38.5 + 8.0 * k, 16.3 + 2.2 * j)}, Pen{.width = 0.4, .wobble = 0});
+        for (int j = 0; j < 6; ++j)
+            p.stroke({at(31.5 + 8.33 * k, 20.2 + 2.4 * j), at(37 + 8.33 * k, 20.2 + 2.4 * j)}, Pen{.width = 0.4, .wobble = 0});
     pole(p, {hub, at(132, 0)}, {4, 2.2});
 }
 

@@ -9,7 +9,7 @@ using namespace tambrelle::engraver;
 // The ladder of the fruit picking: two rails and round rungs, leant against a bough of apples.
 static const Subject subject{"day_340_echelle", [](Plate& p) {
     ground(p, 70, 250, 306, 6);
-    twig(p, {{352, 74}, {300, 92}, {240, 96}, {176, 84}, {120, 88}}, {13, 11, 9, 6, 3});
+    twig(p, {{352, 74}, {300, 92}, {240, 96}, {176, 84}, {120, 88}}, {10, 9, 8, 5.5, 3});
     twig(p, {{290, 94}, {262, 74}, {222, 58}}, {6, 4.5, 2});
     twig(p, {{316, 88}, {312, 116}, {322, 140}}, {5, 3.6, 2});
     LeafForm blade;

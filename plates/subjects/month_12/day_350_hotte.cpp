@@ -18,6 +18,7 @@ static const Subject subject{"day_350_hotte", [](Plate& p) {
     const LatheSurface basket = lathe(p, {200, 300}, 176, {52, 66, 80, 92}, body);
     weave(p, wovenLathe(basket, 0.02, 0.98), {.rows = 21, .stakes = 19, .bulge = 0.3});
     mouth(p, basket, {.rim = 4, .palette = palettes::tan, .depth = 0.4, .staves = 18});
+    plait(p, basket.ring(1, 176, 364), 5.5);
     BallForm grape;
     grape.palette = palettes::grape;
     for (int row = 0; row < 6; ++row)
@@ -25,14 +26,14 @@ static const Subject subject{"day_350_hotte", [](Plate& p) {
             const double v = (row - 2.2) / 3.4, x = (k - 8 + 0.5 * (row % 2)) * 11;
             const double reach = 80 * std::sqrt(std::max(0.0, 1 - v * v));
             if (std::fabs(x) < reach)
-                ball(p, {200 + x + p.random.around(1), 114 + v * 20 - 16 * (1 - x * x / 7000) + p.random.around(1)}, 6.6, grape);
+                ball(p, {200 + x + p.random.around(1), 134 + v * 22 - 20 * (1 - x * x / 7000) + p.random.around(1)}, 6.6, grape);
         }
     LeafForm vine;
     vine.width = 15;
     vine.margin = lobed(2.5, 0.35);
-    leaf(p, {{222, 92}, {244, 80}, {262, 88}}, vine);
-    leaf(p, {{156, 98}, {138, 84}, {120, 92}}, vine);
-    plait(p, basket.ring(1, -2, 182), 7.5);
+    leaf(p, {{226, 106}, {248, 90}, {270, 98}}, vine);
+    leaf(p, {{166, 104}, {146, 88}, {122, 96}}, vine);
+    plait(p, basket.ring(1, 0, 180), 7.5);
     plait(p, basket.ring(0.05, 0, 180), 5.5);
     // Straps of leather, each from the rim to the foot.
     const Palette leather{0xC9966A, 0x84502E, 0x46281A};
@@ -42,7 +43,6 @@ static const Subject subject{"day_350_hotte", [](Plate& p) {
         const Path inner = spline({at(32, 156), at(45, 192), at(44, 236), at(22, 292)});
         surface(p, outer, inner, {.palette = leather, .tone = [s](double u, double v) { return 0.34 + 0.22 * s * (0.5 - v) + 0.2 * (2 * u - 1) * (2 * u - 1); }, .shade = 0.5});
         for (const double q : {0.12, 0.88}) {
-            p.stroke({lerp(along(outer, 0.02), along(inner, 0.02), q), lerp(along(outer, 0.5), along(inner, 0.5), q), lerp(along(outer, 0.98), along(inner, 0.98), q)}, Pen{.width = 0.01, .alpha = 0});
             Path seam;
             for (int k = 0; k <= 30; ++k)
                 seam.push_back(lerp(along(outer, k / 30.0), along(inner, k / 30.0), q));
