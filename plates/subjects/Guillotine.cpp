@@ -1,63 +1,31 @@
-// The guillotine. Shown at 28 x 28: a plain silhouette of few thick parts, dark on white, with the blade's
-// slant, the pale disc of the lunette and the bench to the left.
-
 #include "plates/engraver/Face.h"
 #include "plates/engraver/Subject.h"
+#include "plates/engraver/carpentry/Wood.h"
 
 using namespace tambrelle::engraver;
 
-namespace {
-
-Path box(double x0, double y0, double x1, double y1) {
-    return {{x0, y0}, {x1, y0}, {x1, y1}, {x0, y1}};
-}
-
-} // namespace
-
-static const Subject subject{
-    "Guillotine", [](Plate& p) {
-        const FaceForm timber{.tone = 0.62,
-                              .palette = palettes::darkwood,
-                              .lines = 90,
-                              .spacing = 2.6,
-                              .contour = 2.4,
-                              .grain = 0.10,
-                              .shade = 0.3};
-        FaceForm level = timber;
-        level.lines = 0;
-        FaceForm far = timber;
-        far.tone = 0.8;
-        // Ground sill, uprights, head beam.
-        face(p, box(88, 318, 314, 340), level);
-        face(p, box(150, 38, 176, 320), timber);
-        face(p, box(262, 38, 288, 320), far);
-        face(p, box(136, 22, 302, 50), level);
-        // The slanted blade under its weight: iron, the brightest thing between the uprights.
-        face(p, box(176, 70, 262, 96),
-             {.tone = 0.86, .palette = palettes::lead, .lines = 0, .spacing = 2.4, .contour = 2.2});
-        face(p, {{176, 96}, {262, 96}, {262, 158}, {176, 124}},
-             {.tone = 0.16,
-              .palette = palettes::steel,
-              .lines = 20,
-              .spacing = 3,
-              .contour = 2.6,
-              .gradient = 0.12});
-        p.stroke({{180, 118}, {258, 149}}, {.width = 1.2});
-        p.stroke({{219, 50}, {219, 70}}, {.width = 3.2, .swell = 0, .fade = 0});
-        // Lunette with its round hole.
-        face(p, box(176, 226, 262, 284), timber);
-        const Path hole = ellipse({219, 255}, 19, 19);
-        p.knockOut(hole, {.halo = 0, .shade = 0});
-        p.contour(hole, 2.6);
-        // Bench and its legs.
-        face(p, box(70, 274, 176, 292), level);
-        face(p, box(84, 292, 102, 320), far);
-        // Basket on the far side.
-        face(p, {{292, 286}, {338, 286}, {330, 330}, {298, 330}},
-             {.tone = 0.5,
-              .palette = palettes::straw,
-              .lines = 0,
-              .spacing = 3,
-              .contour = 2.2,
-              .crossed = true});
-    }};
+// The machine with its falling edge. It is shown very small as well, hence few parts, broad and dark.
+static const Subject subject{"Guillotine", [](Plate& p) {
+    const auto timber = [&p](const Path& outline, double tone, double lines) {
+        face(p, outline, {.tone = tone, .palette = palettes::darkwood, .lines = lines, .contour = 2.2, .grain = 0.12, .shade = 0.4});
+    };
+    // Blade and weight run between the posts.
+    timber({{136, 66}, {264, 66}, {264, 96}, {136, 96}}, 0.78, 0);
+    face(p, {{136, 94}, {264, 94}, {264, 198}, {136, 130}}, {.tone = 0.62, .palette = palettes::lead, .lines = 26, .spacing = 2.6, .contour = 2.4, .gradient = 0.2, .gradientTo = -60});
+    // The ground edge catches the light.
+    face(p, {{136, 120}, {264, 188}, {264, 198}, {136, 130}}, {.tone = 0.16, .palette = palettes::steel, .contour = 1.8});
+    // The lunette.
+    timber({{138, 226}, {262, 226}, {262, 290}, {138, 290}}, 0.72, 0);
+    const Path opening = ellipse({200, 258}, 21, 21);
+    p.highlight(opening);
+    p.contour(opening, {.width = 3, .lit = 0.9});
+    p.stroke({{138, 258}, {179, 258}}, Pen{.width = 2, .swell = 0, .fade = 0});
+    p.stroke({{221, 258}, {262, 258}}, Pen{.width = 2, .swell = 0, .fade = 0});
+    // Struts, posts, head and sill.
+    bar(p, {70, 312}, {120, 222}, 17, 0.64, palettes::darkwood);
+    bar(p, {330, 312}, {280, 222}, 17, 0.86, palettes::darkwood);
+    timber({{106, 30}, {140, 30}, {140, 308}, {106, 308}}, 0.62, 90);
+    timber({{260, 30}, {294, 30}, {294, 308}, {260, 308}}, 0.84, 90);
+    timber({{88, 20}, {312, 20}, {312, 52}, {88, 52}}, 0.66, 0);
+    timber({{50, 296}, {350, 296}, {350, 328}, {50, 328}}, 0.72, 0);
+}};
