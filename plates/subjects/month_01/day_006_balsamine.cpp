@@ -9,25 +9,25 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_006_balsamine", [](Plate& p) {
-        herb(p, {.height = 250,
+        herb(p, {.height = 206,
                  .stems = {0},
                  .stemRadius = 5.2,
                  .tipRadius = 2.4,
                  .stemPalette = mix(palettes::stem, palettes::redstem, 0.4),
                  .leaf = {.shape = shapes::lance, .margin = serrate(12), .veins = 8, .petiole = 0.1},
-                 .leaves = 11,
+                 .leaves = 10,
                  .leavesFrom = 0.1,
                  .leavesTo = 0.97,
-                 .leafLength = 96,
-                 .topLeafLength = 44,
-                 .leafWidth = 13,
-                 .topLeafWidth = 7,
-                 .leafAngle = 50,
+                 .leafLength = 112,
+                 .topLeafLength = 60,
+                 .leafWidth = 15,
+                 .topLeafWidth = 9,
+                 .leafAngle = 58,
                  .root = RootKind::fibrous,
                  .inflorescence = raceme(
                      {.flower = flowers(
-                          {.length = 19,
-                           .width = 11,
+                          {.length = 22,
+                           .width = 13,
                            .baseAngle = 66,
                            .tipAngle = 94,
                            .palette = palettes::rose,
@@ -40,12 +40,12 @@ static const Subject subject{
                                                           : k == 1 || k == 4 ? 0.9
                                                                              : 1.25; },
                            .spur = 15}),
-                      .nodes = 5,
+                      .nodes = 4,
                       .from = 0.3,
                       .to = 0.92,
                       .perNode = 2,
                       .angle = 66,
-                      .pedicel = 16,
+                      .pedicel = 20,
                       .smallest = 0.62,
                       .nod = 7})});
     }};

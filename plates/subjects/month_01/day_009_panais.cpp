@@ -8,9 +8,9 @@
 using namespace tambrelle::engraver;
 
 static const Subject subject{"day_009_panais", [](Plate& p) {
-                                 rootVegetable(p, {.crown = {200, 168},
-                                                   .length = 118,
-                                                   .shape = {17, 25, 23, 18, 12, 6.5, 2.4},
+                                 rootVegetable(p, {.crown = {200, 152},
+                                                   .length = 132,
+                                                   .shape = {19, 30, 28, 22, 15, 8, 3},
                                                    .tail = 34,
                                                    .palette = palettes::cream,
                                                    .rough = 0.05,
@@ -21,9 +21,9 @@ static const Subject subject{"day_009_panais", [](Plate& p) {
                                                             .margin = serrate(5, 0.25),
                                                             .petiole = 0.34,
                                                             .leaflets = 3,
-                                                            .leafletWidth = 0.36},
+                                                            .leafletWidth = 0.27},
                                                    .leaves = 4,
-                                                   .leafLength = 128,
-                                                   .leafWidth = 34,
+                                                   .leafLength = 118,
+                                                   .leafWidth = 27,
                                                    .leafSpread = 58});
                              }};

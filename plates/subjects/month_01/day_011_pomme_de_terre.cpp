@@ -19,10 +19,10 @@ static const Subject subject{
               Path{{198, 232}, {186, 266}, {178, 288}}, Path{{202, 232}, {222, 268}, {240, 292}}})
             tube(p, runner, {2.2, 1.5}, {.palette = palettes::root});
         rootlets(p, {200, 234}, 18, 90, 120, 34);
-        tuber(p, {112, 270}, {.length = 33, .width = 24, .direction = 12});
-        tuber(p, {294, 266}, {.length = 36, .width = 25, .direction = -14});
-        tuber(p, {176, 306}, {.length = 36, .width = 25, .direction = 8});
-        tuber(p, {250, 308}, {.length = 31, .width = 23, .direction = -30});
+        tuber(p, {112, 270}, {.length = 46, .width = 33, .direction = 12});
+        tuber(p, {294, 266}, {.length = 48, .width = 34, .direction = -14});
+        tuber(p, {176, 306}, {.length = 48, .width = 34, .direction = 8});
+        tuber(p, {250, 308}, {.length = 42, .width = 31, .direction = -30});
         herb(p, {.foot = {200, 238},
                  .height = 164,
                  .stems = {-46, 48, 0},
@@ -32,14 +32,14 @@ static const Subject subject{
                           .veins = 4,
                           .petiole = 0.2,
                           .leaflets = 2,
-                          .leafletWidth = 0.36},
+                          .leafletWidth = 0.25},
                  .leaves = 3,
                  .leavesFrom = 0.2,
                  .leavesTo = 0.8,
-                 .leafLength = 92,
+                 .leafLength = 104,
                  .topLeafLength = 64,
-                 .leafWidth = 27,
-                 .topLeafWidth = 19,
+                 .leafWidth = 24,
+                 .topLeafWidth = 17,
                  .leafAngle = 60,
                  .inflorescence = corymb({.flower = flowers({.length = 17,
                                                              .width = 12.5,

@@ -10,15 +10,15 @@ using namespace tambrelle::engraver;
 static const Subject subject{"day_013_potiron", [](Plate& p) {
                                  ground(p, 76, 330, 266, 5);
                                  gourd(p, {184, 204},
-                                       {.width = 104,
-                                        .height = 56,
-                                        .ribs = 9,
+                                       {.width = 100,
+                                        .height = 52,
+                                        .ribs = 7,
                                         .palette = mix(palettes::orange, palettes::scarlet, 0.3),
                                         .stalkLean = 0.6,
                                         .stalk = 26,
                                         .stalkPalette = palettes::straw});
-                                 wedge(p, {302, 252},
-                                       {.radius = 50,
+                                 wedge(p, {306, 240},
+                                       {.radius = 46,
                                         .rind = mix(palettes::orange, palettes::scarlet, 0.3),
                                         .flesh = palettes::orange,
                                         .rindWidth = 0.08,

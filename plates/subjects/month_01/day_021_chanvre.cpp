@@ -10,7 +10,7 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_021_chanvre", [](Plate& p) {
         herb(p, {.foot = {200, 350},
-                 .height = 262,
+                 .height = 246,
                  .stems = {0},
                  .stemRadius = 4.2,
                  .tipRadius = 2,
@@ -25,10 +25,10 @@ static const Subject subject{
                  .leaves = 4,
                  .leavesFrom = 0.2,
                  .leavesTo = 0.92,
-                 .leafLength = 116,
-                 .topLeafLength = 54,
-                 .leafWidth = 40,
-                 .topLeafWidth = 22,
+                 .leafLength = 150,
+                 .topLeafLength = 66,
+                 .leafWidth = 7,
+                 .topLeafWidth = 3.6,
                  .leafAngle = 60,
                  .root = RootKind::taproot,
                  .inflorescence =

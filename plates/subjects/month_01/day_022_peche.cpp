@@ -20,7 +20,7 @@ static const Subject subject{
                               {0.99, 20, 70, 12},
                               {0.9, 74, 84, 12}},
                    .fruits = {{0.46, hangingPome({.length = 104,
-                                                  .shape = {8, 38, 52, 58, 57, 50, 33, 6},
+                                                  .shape = {10, 42, 56, 60, 60, 55, 43, 24, 3},
                                                   .palette = palettes::orange,
                                                   .blush = palettes::red,
                                                   .stalk = 8,
@@ -28,8 +28,8 @@ static const Subject subject{
                                                   .calyx = 0,
                                                   .suture = true,
                                                   .velvet = true})}}});
-        ground(p, 216, 330, 290, 3);
-        cutFace(p, {276, 246},
+        ground(p, 232, 346, 294, 3);
+        cutFace(p, {292, 250},
                 {.radius = 46,
                  .squash = 0.94,
                  .rind = mix(palettes::orange, palettes::red, 0.5),
@@ -38,7 +38,7 @@ static const Subject subject{
                  .stone = 0.42,
                  .stonePalette = palettes::brown});
         for (int k = 0; k < 26; ++k) {
-            const Point at = Point{276, 246} + Point{p.random.around(12), p.random.around(14)};
+            const Point at = Point{292, 250} + Point{p.random.around(12), p.random.around(14)};
             p.stroke({at, at + Point{p.random.around(3), 4}, at + Point{p.random.around(4), 7}},
                      {.width = 1.0});
         }

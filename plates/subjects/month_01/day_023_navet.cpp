@@ -7,8 +7,8 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{"day_023_navet", [](Plate& p) {
                                  rootVegetable(p, {.crown = {200, 178},
-                                                   .length = 88,
-                                                   .shape = {13, 44, 57, 57, 46, 25, 5},
+                                                   .length = 96,
+                                                   .shape = {14, 38, 51, 56, 55, 49, 38, 22, 6},
                                                    .tail = 52,
                                                    .palette = mix(palettes::purple, palettes::magenta, 0.4),
                                                    .lower = palettes::whiteflower,

@@ -18,8 +18,8 @@ static const Subject subject{
                                .petiole = 0.14,
                                .leaflets = 3,
                                .leafletWidth = 0.34};
-        growLeaf(p, {156, 52}, 172, 128, 36, feather, -48);
-        growLeaf(p, {172, 76}, -12, 146, 38, feather, 42);
+        growLeaf(p, {162, 62}, 182, 112, 32, feather, -40);
+        growLeaf(p, {174, 80}, -14, 132, 34, feather, 34);
         stem(p, {{192, 126}, {172, 146}, {150, 166}}, {2.4, 2.8});
         stem(p, {{194, 128}, {222, 140}, {258, 152}}, {2.4, 2.8});
         stem(p, {{195, 128}, {200, 168}, {204, 210}}, {2.4, 2.8});

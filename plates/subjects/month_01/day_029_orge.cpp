@@ -6,18 +6,18 @@
 using namespace tambrelle::engraver;
 
 static const Subject subject{"day_029_orge", [](Plate& p) {
-                                 cereal(p, {.height = 262,
-                                            .headLength = 104,
+                                 cereal(p, {.height = 230,
+                                            .headLength = 124,
                                             .stems = {-84, 70, -6},
                                             .nod = 34,
                                             .leaves = 2,
                                             .head = [](Plate& plate, const Path& spine) {
                                                 ear(plate, spine,
-                                                    {.spikelets = 26,
-                                                     .length = 15,
-                                                     .width = 4.4,
+                                                    {.spikelets = 20,
+                                                     .length = 21,
+                                                     .width = 7,
                                                      .angle = 17,
-                                                     .awn = 96,
+                                                     .awn = 92,
                                                      .awnSpread = 13,
                                                      .rows = 2});
                                             }});
