@@ -31,7 +31,7 @@ static const Subject subject{
                            .baseAngle = 66,
                            .tipAngle = 94,
                            .palette = palettes::rose,
-                           .tips = palettes::magenta,
+                           .tips = palettes::pink,
                            .notch = 0.16,
                            .ruffle = 1.2,
                            .tilt = 58,

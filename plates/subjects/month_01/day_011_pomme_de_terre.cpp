@@ -33,7 +33,7 @@ static const Subject subject{
                           .petiole = 0.2,
                           .leaflets = 2,
                           .leafletWidth = 0.25},
-                 .leaves = 3,
+                 .leaves = 4,
                  .leavesFrom = 0.2,
                  .leavesTo = 0.8,
                  .leafLength = 104,

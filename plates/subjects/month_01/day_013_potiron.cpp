@@ -8,10 +8,10 @@
 using namespace tambrelle::engraver;
 
 static const Subject subject{"day_013_potiron", [](Plate& p) {
-                                 ground(p, 76, 330, 266, 5);
+                                 ground(p, 76, 330, 262, 5);
                                  gourd(p, {184, 204},
                                        {.width = 100,
-                                        .height = 52,
+                                        .height = 58,
                                         .ribs = 7,
                                         .palette = mix(palettes::orange, palettes::scarlet, 0.3),
                                         .stalkLean = 0.6,

@@ -10,13 +10,13 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_018_sarrasin", [](Plate& p) {
-        const LeafKind arrow{.build = LeafKind::Build::palmate,
-                             .petiole = 0.2,
-                             .stalk = palettes::redstem,
-                             .lobes = {{-146, 0.5}, {0, 1}, {146, 0.5}},
-                             .sinus = 0.8,
-                             .teeth = 0,
-                             .bulge = 1.5};
+        const LeafKind arrow{
+            .shape = shapes::deltoid,
+            .veins = 5,
+            .petiole = 0.2,
+            .stalk = palettes::redstem,
+
+        };
         herb(p, {.foot = {190, 340},
                  .height = 206,
                  .stems = {-62, 58, 0},

@@ -20,7 +20,7 @@ static const Subject subject{
                               {0.99, 20, 70, 12},
                               {0.9, 74, 84, 12}},
                    .fruits = {{0.46, hangingPome({.length = 104,
-                                                  .shape = {10, 42, 56, 60, 60, 55, 43, 24, 3},
+                                                  .shape = {16, 42, 54, 60, 61, 59, 53, 41, 8},
                                                   .palette = palettes::orange,
                                                   .blush = palettes::red,
                                                   .stalk = 8,

@@ -25,7 +25,8 @@ static const Subject subject{
         stem(p, {{195, 128}, {200, 168}, {204, 210}}, {2.4, 2.8});
         const auto fruit = [&](Point at, double radius, const Palette& palette) {
             lathe(p, at + Point{0, -radius * 0.2}, radius * 1.3,
-                  {radius * 0.35, radius * 0.86, radius, radius * 0.98, radius * 0.78, radius * 0.3},
+                  {radius * 0.5, radius * 0.82, radius * 0.95, radius, radius * 0.97, radius * 0.86,
+                   radius * 0.62, radius * 0.2},
                   {.direction = 90,
                    .tilt = -0.42,
                    .palette = palette,

@@ -13,13 +13,13 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_214_aubepine", [](Plate& p) {
         const FlowerForm blossom{.length = 16,
-                                 .width = 10.5,
+                                 .width = 8.6,
                                  .baseAngle = 70,
                                  .tipAngle = 86,
-                                 .shape = shapes::orbicular,
+                                 .shape = {0.4, 0.8, 1, 1, 0.8, 0},
                                  .palette = palettes::whiteflower,
-                                 .tilt = 62,
-                                 .stamens = 12,
+                                 .tilt = 80,
+                                 .stamens = 9,
                                  .stamenLength = 0.75,
                                  .antherPalette = palettes::magenta,
                                  .washLift = 0};
@@ -37,8 +37,18 @@ static const Subject subject{
             const Point from = along(spine, q);
             const Point tip = polar(from, degrees, reach);
             stem(p, {from, lerp(from, tip, 0.5) + Point{2, 0}, tip}, {1.8, 1.3});
-            corymb({.flower = flowers(blossom), .count = 8, .spread = 170, .length = 34})(
-                p, spline({from, lerp(from, tip, 0.5) + Point{2, 0}, tip}));
+            for (int k = 6; k >= 0; --k) {
+                const Point at = k == 0 ? polar(tip, degrees, 26)
+                                        : polar(polar(tip, degrees, 24), degrees + 60.0 * k + 30, 31);
+                stem(p, {tip, at}, {1.1, 0.9});
+            }
+            for (int k = 6; k >= 0; --k) {
+                const Point at = k == 0 ? polar(tip, degrees, 26)
+                                        : polar(polar(tip, degrees, 24), degrees + 60.0 * k + 30, 31);
+                FlowerForm turned = blossom;
+                turned.roll = k * 37.0;
+                flower(p, at, degrees, turned);
+            }
         };
         growLeaf(p, along(spine, 0.1), 84, 78, 24, cut, -12);
         growLeaf(p, along(spine, 0.34), 100, 84, 24, cut, -10);

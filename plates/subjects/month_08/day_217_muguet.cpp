@@ -20,8 +20,8 @@ static const Subject subject{
         const Path scape{{206, 322}, {212, 240}, {224, 150}, {246, 84}, {276, 62}};
         stem(p, scape, {2.6, 2.2, 1.4});
         const Path curve = spline(scape);
-        for (int k = 0; k < 9; ++k) {
-            const double q = 0.985 - 0.066 * k, size = 0.5 + 0.075 * k;
+        for (int k = 0; k < 7; ++k) {
+            const double q = 0.985 - 0.083 * k, size = 0.6 + 0.085 * k;
             const Point at = along(curve, q);
             const Point hook = at + Point{9 + 17 * size, 1 - 4 * size}, end = hook + Point{5, 9 * size};
             stem(p, {at, lerp(at, hook, 0.6) + Point{0, -5 * size}, hook, end}, {0.9, 0.8});

@@ -11,7 +11,7 @@ static const Subject subject{"day_218_champignon", [](Plate& p) {
                                  ground(p, 84, 326, 296, 5);
                                  mushroom(p, {212, 296},
                                           {.cap = 84,
-                                           .capHeight = 60,
+                                           .capHeight = 50,
                                            .stem = 98,
                                            .stemRadius = 21,
                                            .palette = palettes::cream,
@@ -24,6 +24,7 @@ static const Subject subject{"day_218_champignon", [](Plate& p) {
                                            .stemRadius = 13,
                                            .palette = palettes::cream,
                                            .gills = palettes::rose,
-                                           .tilt = 0.12});
+                                           .tilt = 0.12,
+                                           .ring = false});
                                  grassTufts(p, 90, 320, 300, 9);
                              }};

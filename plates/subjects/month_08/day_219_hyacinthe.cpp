@@ -18,8 +18,8 @@ static const Subject subject{
         stem(p, {{200, 292}, {201, 200}, {200, 60}}, {6, 5, 3});
         const Path curve = spline({{200, 292}, {201, 200}, {200, 60}});
         raceme({.flower = flowers({.petals = 6,
-                                   .length = 18,
-                                   .width = 6.4,
+                                   .length = 25,
+                                   .width = 7.6,
                                    .baseAngle = 28,
                                    .tipAngle = 118,
                                    .shape = {0.6, 0.85, 1, 0.9, 0.6, 0},
@@ -32,13 +32,13 @@ static const Subject subject{
                                                   0.16 * maths::exp(-v * v * 60);
                                        },
                                    .tube = 11,
-                                   .tubeRadius = 5}),
-                .nodes = 9,
+                                   .tubeRadius = 5.5}),
+                .nodes = 6,
                 .from = 0.36,
                 .to = 1,
                 .perNode = 4,
                 .angle = 84,
-                .pedicel = 12,
+                .pedicel = 16,
                 .smallest = 0.72})(p, curve);
         leaf(p, {{197, 292}, {178, 232}, {156, 190}, {140, 174}}, strap);
         leaf(p, {{203, 292}, {224, 236}, {250, 196}, {266, 180}}, strap);

@@ -18,7 +18,7 @@ static const Subject subject{
                           .shape = shapes::elliptic,
                           .petiole = 0.14,
                           .leaflets = 7,
-                          .leafletWidth = 0.22},
+                          .leafletWidth = 0.17},
                  .leaves = 4,
                  .leavesFrom = 0.12,
                  .leavesTo = 0.54,
@@ -31,12 +31,12 @@ static const Subject subject{
                  .inflorescence =
                      raceme({.flower =
                                  [](Plate& plate, Point at, double degrees, double scale, int side) {
-                                     peaFlower(plate, at, degrees, 17 * scale, palettes::rose, side,
+                                     peaFlower(plate, at, degrees, 25 * scale, palettes::rose, side,
                                                palettes::magenta);
                                  },
-                             .nodes = 8,
+                             .nodes = 7,
                              .from = 0.58,
-                             .perNode = 3,
+                             .perNode = 2,
                              .angle = 76,
                              .pedicel = 5,
                              .smallest = 0.42})});

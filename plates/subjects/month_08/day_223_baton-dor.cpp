@@ -10,7 +10,7 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_223_baton-dor", [](Plate& p) {
         herb(p,
-             {.height = 216,
+             {.height = 206,
               .stems = {-66, 64, 0},
               .stemRadius = 2.8,
               .leaf = {.shape = shapes::lance, .veins = 3, .petiole = 0.04, .palette = palettes::bluegreen},
@@ -26,13 +26,13 @@ static const Subject subject{
               .inflorescence =
                   together({raceme({.flower = flowers({.petals = 4,
                                                        .length = 19,
-                                                       .width = 11,
+                                                       .width = 8.6,
                                                        .baseAngle = 74,
                                                        .tipAngle = 90,
-                                                       .shape = shapes::orbicular,
+                                                       .shape = {0.25, 0.5, 0.95, 1, 0.8, 0},
                                                        .palette = palettes::yellow,
                                                        .tips = palettes::orange,
-                                                       .tilt = 58,
+                                                       .tilt = 72,
                                                        .marking =
                                                            [](double u, double v) {
                                                                return 0.5 * (1 - maths::smooth(0.1, 0.5, u)) +
@@ -42,12 +42,12 @@ static const Subject subject{
                                                        .stamenLength = 0.3}),
                                     .nodes = 4,
                                     .from = 0.66,
-                                    .perNode = 3,
+                                    .perNode = 2,
                                     .angle = 74,
-                                    .pedicel = 13,
+                                    .pedicel = 22,
                                     .smallest = 0.66}),
                             corymb({.flower = berries(3.4, mix(palettes::brown, palettes::red, 0.4), 1.6),
                                     .count = 5,
                                     .spread = 90,
-                                    .length = 9})})});
+                                    .length = 16})})});
     }};

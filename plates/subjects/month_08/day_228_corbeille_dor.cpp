@@ -14,15 +14,21 @@ static const Subject subject{
     "day_228_corbeille_dor", [](Plate& p) {
         ground(p, 90, 318, 300, 5);
         relief(p,
-               closedSpline({{96, 300},
-                             {92, 272},
-                             {122, 250},
-                             {170, 244},
-                             {240, 240},
-                             {296, 254},
-                             {316, 280},
-                             {312, 300}}),
-               {.palette = palettes::sandstone, .bevel = 26, .creases = true});
+               {{90, 302},
+                {84, 284},
+                {104, 276},
+                {110, 256},
+                {146, 252},
+                {160, 242},
+                {206, 246},
+                {224, 238},
+                {262, 246},
+                {272, 256},
+                {298, 260},
+                {306, 278},
+                {324, 286},
+                {318, 302}},
+               {.palette = palettes::stone, .bevel = 13, .creases = true});
         struct Tuft {
             Point foot, top;
         };
@@ -47,19 +53,19 @@ static const Subject subject{
             const Path spine{t.foot, lerp(t.foot, t.top, 0.5) + Point{0, -10}, t.top};
             stem(p, spine, {1.7, 1.3});
             corymb({.flower = flowers({.petals = 4,
-                                       .length = 8.6,
-                                       .width = 5.2,
+                                       .length = 9.4,
+                                       .width = 4.6,
                                        .baseAngle = 72,
                                        .tipAngle = 88,
-                                       .shape = shapes::orbicular,
+                                       .shape = {0.3, 0.6, 1, 0.95, 0.7, 0},
                                        .palette = palettes::yellow,
                                        .notch = 0.1,
-                                       .tilt = 64,
+                                       .tilt = 76,
                                        .eye = 1.6,
                                        .eyePalette = palettes::gold,
                                        .washLift = 0.2}),
-                    .count = 12,
+                    .count = 9,
                     .spread = 190,
-                    .length = 25})(p, spline(spine));
+                    .length = 29})(p, spline(spine));
         }
     }};

@@ -9,8 +9,8 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_229_arroche", [](Plate& p) {
-        herb(p, {.height = 236,
-                 .stems = {-44, 44, 0},
+        herb(p, {.height = 214,
+                 .stems = {-66, 66, 0},
                  .stemRadius = 3.8,
                  .stemPalette = mix(palettes::stem, palettes::redstem, 0.5),
                  .leaf = {.shape = shapes::deltoid,

@@ -12,13 +12,13 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_233_bourrache", [](Plate& p) {
         const FlowerForm star{.length = 22,
-                              .width = 8,
+                              .width = 7,
                               .baseAngle = 82,
                               .tipAngle = 92,
                               .shape = {0.7, 1, 0.9, 0.6, 0},
                               .palette = palettes::blue,
                               .cup = 3,
-                              .tilt = 66,
+                              .tilt = 76,
                               .sepals = 5};
         herb(p, {.height = 226,
                  .stems = {-60, 62, 0},
@@ -39,13 +39,13 @@ static const Subject subject{
                                   [star](Plate& plate, Point at, double degrees, double scale, int) {
                                       flower(plate, at, degrees, star, scale);
                                       const Point eye = polar(at, degrees, 2);
-                                      plate.dot(eye, 5.4 * scale, Colour(0xFFFFFF));
-                                      lathe(plate, eye, 11 * scale, {4 * scale, 2.8 * scale, 0.5},
-                                            {.direction = degrees, .tilt = 0.7, .palette = palettes::black});
+                                      plate.dot(eye, 4.6 * scale, Colour(0xFFFFFF));
+                                      lathe(plate, eye, 8 * scale, {3 * scale, 2 * scale, 0.4},
+                                            {.direction = degrees, .tilt = 0.5, .palette = palettes::black});
                                   },
-                              .count = 4,
+                              .count = 3,
                               .spread = 150,
-                              .length = 30}),
+                              .length = 38}),
                       corymb({.flower = berries(4, mix(palettes::leaf, palettes::violet, 0.3), 1.5),
                               .count = 3,
                               .spread = 60,

@@ -11,7 +11,7 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_234_valeriane", [](Plate& p) {
-        herb(p, {.height = 236,
+        herb(p, {.height = 206,
                  .stems = {0},
                  .stemRadius = 4,
                  .tipRadius = 2.6,
@@ -34,7 +34,7 @@ static const Subject subject{
                  .root = RootKind::fibrous,
                  .inflorescence = [](Plate& plate, const Path& curve) {
                      const auto cluster = corymb(
-                         {.flower = florets(4.4, palettes::pink), .count = 34, .spread = 190, .length = 32});
+                         {.flower = florets(5, palettes::pink), .count = 26, .spread = 190, .length = 32});
                      const auto arm = [&](double q, double degrees, double reach) {
                          const Point from = along(curve, q), tip = polar(from, degrees, reach);
                          const Path spine{from, lerp(from, tip, 0.5), tip + Point{0, -6}};

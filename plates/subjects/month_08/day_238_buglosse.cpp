@@ -9,7 +9,7 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_238_buglosse", [](Plate& p) {
-        herb(p, {.height = 226,
+        herb(p, {.height = 206,
                  .stems = {-70, 70, 0},
                  .stemRadius = 3,
                  .hairs = 60,
@@ -27,20 +27,20 @@ static const Subject subject{
                  .leafAngle = 46,
                  .root = RootKind::taproot,
                  .inflorescence =
-                     coiledCyme({.flower = flowers({.length = 13,
-                                                    .width = 7.8,
+                     coiledCyme({.flower = flowers({.length = 14,
+                                                    .width = 6.4,
                                                     .baseAngle = 74,
                                                     .tipAngle = 90,
                                                     .shape = shapes::orbicular,
                                                     .palette = mix(palettes::blue, palettes::violet, 0.2),
-                                                    .tilt = 62,
+                                                    .tilt = 76,
                                                     .tube = 6,
                                                     .eye = 2.8,
                                                     .eyePalette = palettes::whiteflower,
                                                     .washLift = 0.2}),
-                                 .count = 8,
-                                 .length = 56,
-                                 .radius = 11,
+                                 .count = 6,
+                                 .length = 68,
+                                 .radius = 15,
                                  .smallest = 0.4,
                                  .branches = 2,
                                  .angle = 46})});

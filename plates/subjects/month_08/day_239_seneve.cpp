@@ -44,16 +44,16 @@ static const Subject subject{
                               .smallest = 0.7}),
                       corymb({.flower = flowers({.petals = 4,
                                                  .length = 14,
-                                                 .width = 8,
+                                                 .width = 6.4,
                                                  .baseAngle = 72,
                                                  .tipAngle = 90,
-                                                 .shape = shapes::orbicular,
+                                                 .shape = {0.25, 0.5, 0.95, 1, 0.75, 0},
                                                  .palette = palettes::yellow,
-                                                 .tilt = 60,
+                                                 .tilt = 74,
                                                  .stamens = 4,
                                                  .stamenLength = 0.4,
                                                  .washLift = 0.2}),
-                              .count = 9,
+                              .count = 6,
                               .spread = 180,
-                              .length = 27})})});
+                              .length = 36})})});
     }};
