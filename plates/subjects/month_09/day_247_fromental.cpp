@@ -1,0 +1,31 @@
+// Tall oat-grass, Arrhenatherum elatius: an open panicle of shining spikelets, each with one long bent awn.
+
+#include "plates/engraver/Subject.h"
+#include "plates/engraver/botany/Cereal.h"
+
+using namespace tambrelle::engraver;
+
+static const Subject subject{"day_247_fromental", [](Plate& p) {
+                                 cereal(p, {.height = 282,
+                                            .headLength = 176,
+                                            .stems = {-66, 64, 0},
+                                            .nod = 10,
+                                            .radius = 1.6,
+                                            .palette = palettes::stem,
+                                            .leafPalette = palettes::leaf,
+                                            .leaves = 3,
+                                            .head = [](Plate& plate, const Path& spine) {
+                                                grassPanicle(
+                                                    plate, spine, 0.08,
+                                                    {.whorls = 8,
+                                                     .width = 34,
+                                                     .taper = {0.8, 1, 0.7, 0.3},
+                                                     .perBranch = 2,
+                                                     .spikelet = 16,
+                                                     .spikeletWidth = 3.2,
+                                                     .awn = 22,
+                                                     .hang = 0.3,
+                                                     .angle = 40,
+                                                     .palette = mix(palettes::straw, palettes::lilac, 0.25)});
+                                            }});
+                             }};
