@@ -30,8 +30,8 @@ static const Subject subject{
                 for (const double side : {-1.0, 1.0})
                     leaflet(p, at, polar(at, -90 + side * 62 + lean * 0.3, 17),
                             {.width = 4.4,
-                             .shape = shapes::elliptic,
-                             .palette = i % 2 == 0 ? palettes::leaf : palettes::bluegreen});
+                             .palette = i % 2 == 0 ? palettes::leaf : palettes::bluegreen,
+                             .shape = shapes::elliptic});
             }
             if (k % 2 == 0)
                 for (const double turn : {-96.0, 96.0, -64.0, 64.0, -32.0, 32.0, 0.0})
