@@ -20,12 +20,12 @@ static const Subject subject{
         for (int k = 0; k < 11; ++k) {
             const double q = 0.05 + 0.09 * k;
             const Point foot = along(runner, q);
-            const double tall = (k % 2 == 0 ? 92 : 54) + p.random.around(8),
-                         lean = (k - 5) * 5.0 + p.random.around(6);
+            const double tall = (k % 2 == 0 ? 124 : 76) + p.random.around(22),
+                         lean = (k - 5) * 6.0 + p.random.around(18);
             const Path shoot{foot, foot + Point{lean * 0.3, -tall * 0.5}, foot + Point{lean, -tall}};
             const Path curve = stem(p, shoot, {1.6, 1.2}, palettes::redstem);
-            const int pairs = k % 2 == 0 ? 4 : 4;
-            for (int i = 0; i < pairs; ++i) {
+
+            for (int i = 0; i < 4; ++i) {
                 const Point at = along(curve, 0.14 + 0.2 * i);
                 for (const double side : {-1.0, 1.0})
                     leaflet(p, at, polar(at, -90 + side * 62 + lean * 0.3, 17),
@@ -35,7 +35,7 @@ static const Subject subject{
             }
             if (k % 2 == 0)
                 for (const double turn : {-96.0, 96.0, -64.0, 64.0, -32.0, 32.0, 0.0})
-                    lipFlower(p, polar(shoot.back() + Point{0, 3}, -90 + turn, 8), -90 + turn, 19,
+                    lipFlower(p, polar(shoot.back() + Point{0, 3}, -90 + turn, 8), -90 + turn, 22,
                               mix(palettes::rose, palettes::magenta, 0.5), turn < 0 ? -1 : 1);
         }
     }};

@@ -45,6 +45,6 @@ static const Subject subject{
         };
         cluster(0.28, {150, 238});
         cluster(0.72, {252, 246});
-        pod(p, {along(spine, 0.4) + Point{2, 2}, {204, 250}, {196, 330}},
-            {.width = 7.5, .seeds = 7, .open = false, .palette = palettes::brown});
+        pod(p, {along(spine, 0.4) + Point{2, 2}, {206, 150}, {200, 224}},
+            {.width = 6, .seeds = 6, .open = false, .palette = palettes::bark});
     }};

@@ -21,7 +21,7 @@ static const Subject subject{
         const auto hanging = [&](Point at, double degrees) {
             const Point tip = polar(at, degrees, 112);
             leaf(p, {at, lerp(at, tip, 0.5) + Point{4, 0}, tip},
-                 {.width = 11,
+                 {.width = 15,
                   .shape = {0.4, 0.8, 0.95, 1, 0.95, 0.4},
                   .palette = palettes::leafy,
                   .veins = 9,
@@ -35,8 +35,8 @@ static const Subject subject{
                 const Point end = polar(knot, a, 30 - 5 * std::fabs(k - 2.0) * 0.6);
                 stem(p, {knot, lerp(knot, end, 0.5), end}, {1, 0.9});
                 flower(p, end, a,
-                       {.length = 15,
-                        .width = 5,
+                       {.length = 18,
+                        .width = 6,
                         .baseAngle = 62,
                         .tipAngle = 84,
                         .shape = shapes::elliptic,

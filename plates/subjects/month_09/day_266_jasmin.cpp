@@ -21,25 +21,24 @@ static const Subject subject{
         growLeaf(p, along(vine, 0.12), 20, 108, 23, feather, -16);
         growLeaf(p, along(vine, 0.44), -160, 110, 23, feather, -14);
         growLeaf(p, along(vine, 0.44), 22, 116, 24, feather, -10);
-        growLeaf(p, along(vine, 0.74), -174, 96, 19, feather, 14);
-        growLeaf(p, along(vine, 0.74), 4, 100, 20, feather, 14);
+
         const Point hub{214, 112};
         for (const double a : {-128.0, -52.0}) {
-            const Point tip = polar(hub, a, 50);
+            const Point tip = polar(hub, a, 64);
             tube(p, {hub, lerp(hub, tip, 0.6), tip}, {1.1, 1.4, 3.6, 3.4, 0.6},
                  {.palette = palettes::pink, .lines = Lines::along});
         }
         for (const double a : {-178.0, -2.0, -148.0, -32.0, -108.0, -74.0})
-            flower(p, polar(hub, a, 12), a,
-                   {.length = 27,
-                    .width = 9,
+            flower(p, polar(hub, a, 66), a,
+                   {.length = 32,
+                    .width = 11,
                     .baseAngle = 74,
                     .tipAngle = 92,
                     .shape = {0.4, 0.85, 1, 0.75, 0},
                     .palette = palettes::whiteflower,
                     .cup = 2.6,
-                    .tilt = 44,
-                    .tube = 40,
+                    .tilt = 52,
+                    .tube = 56,
                     .tubeRadius = 2,
                     .eye = 1.6,
                     .washLift = 0},
