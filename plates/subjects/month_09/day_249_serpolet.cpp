@@ -17,16 +17,17 @@ static const Subject subject{
             twig(p, {{70, 262}, {130, 256}, {200, 262}, {270, 256}, {332, 264}}, {2, 2.6, 1.6});
         for (int k = 0; k < 9; ++k)
             rootlets(p, along(runner, 0.06 + 0.11 * k), 2, 90, 60, 13);
-        for (int k = 0; k < 11; ++k) {
-            const double q = 0.05 + 0.09 * k;
+        for (int k = 0; k < 15; ++k) {
+            const double q = 0.05 + 0.064 * k;
             const Point foot = along(runner, q);
-            const double tall = (k % 2 == 0 ? 124 : 76) + p.random.around(22),
-                         lean = (k - 5) * 6.0 + p.random.around(18);
-            const Path shoot{foot, foot + Point{lean * 0.3, -tall * 0.5}, foot + Point{lean, -tall}};
+            const double tall = (k % 2 == 0 ? 112 : 64) + p.random.around(22),
+                         lean = (k - 7) * 4.0 + p.random.around(34);
+            const Path shoot{foot, foot + Point{lean * 0.1 + p.random.around(5), -tall * 0.5},
+                             foot + Point{lean, -tall}};
             const Path curve = stem(p, shoot, {1.6, 1.2}, palettes::redstem);
 
-            for (int i = 0; i < 4; ++i) {
-                const Point at = along(curve, 0.14 + 0.2 * i);
+            for (int i = 0; i < 6; ++i) {
+                const Point at = along(curve, 0.1 + 0.15 * i);
                 for (const double side : {-1.0, 1.0})
                     leaflet(p, at, polar(at, -90 + side * 62 + lean * 0.3, 17),
                             {.width = 4.4,

@@ -23,7 +23,7 @@ static const Subject subject{
             leaf(p, {at, lerp(at, tip, 0.5) + Point{4, 0}, tip},
                  {.width = 15,
                   .shape = {0.4, 0.8, 0.95, 1, 0.95, 0.4},
-                  .palette = palettes::leafy,
+                  .palette = mix(palettes::leafy, palettes::cream, 0.6),
                   .veins = 9,
                   .tone = -0.12});
             const Point mid = lerp(at, tip, 0.5);

@@ -10,7 +10,8 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_266_jasmin", [](Plate& p) {
-        const Path vine = stem(p, {{80, 322}, {128, 262}, {180, 224}, {216, 160}, {214, 110}}, {3, 2.6, 1.8});
+        const Path vine =
+            stem(p, {{110, 312}, {140, 262}, {184, 224}, {216, 160}, {214, 110}}, {3, 2.6, 1.8});
         const LeafKind feather{.build = LeafKind::Build::pinnate,
                                .shape = shapes::lance,
                                .veins = 4,
@@ -29,6 +30,9 @@ static const Subject subject{
                  {.palette = palettes::pink, .lines = Lines::along});
         }
         for (const double a : {-178.0, -2.0, -148.0, -32.0, -108.0, -74.0})
+            tube(p, {hub, polar(hub, a - 3, 36), polar(hub, a, 68)}, {1.3, 1.7, 2.6},
+                 {.palette = palettes::cream, .lines = Lines::along, .contour = 0.75});
+        for (const double a : {-178.0, -2.0, -148.0, -32.0, -108.0, -74.0})
             flower(p, polar(hub, a, 66), a,
                    {.length = 32,
                     .width = 11,
@@ -37,9 +41,8 @@ static const Subject subject{
                     .shape = {0.4, 0.85, 1, 0.75, 0},
                     .palette = palettes::whiteflower,
                     .cup = 2.6,
-                    .tilt = 52,
-                    .tube = 56,
-                    .tubeRadius = 2,
+                    .tilt = 72,
+
                     .eye = 1.6,
                     .washLift = 0},
                    1);
