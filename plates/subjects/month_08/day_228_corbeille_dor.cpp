@@ -14,21 +14,20 @@ static const Subject subject{
     "day_228_corbeille_dor", [](Plate& p) {
         ground(p, 90, 318, 300, 5);
         relief(p,
-               {{90, 302},
-                {84, 284},
-                {104, 276},
-                {110, 256},
-                {146, 252},
-                {160, 242},
-                {206, 246},
-                {224, 238},
-                {262, 246},
-                {272, 256},
-                {298, 260},
-                {306, 278},
-                {324, 286},
-                {318, 302}},
-               {.palette = palettes::stone, .bevel = 13, .creases = true});
+               closedSpline({{96, 306},
+                             {90, 284},
+                             {108, 262},
+                             {142, 252},
+                             {160, 238},
+                             {206, 234},
+                             {240, 236},
+                             {268, 250},
+                             {300, 258},
+                             {320, 284},
+                             {312, 306},
+                             {206, 310}},
+                            5),
+               {.palette = palettes::stone, .bevel = 40, .creases = true});
         struct Tuft {
             Point foot, top;
         };
