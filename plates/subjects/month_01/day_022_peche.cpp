@@ -10,7 +10,7 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_022_peche", [](Plate& p) {
-        branch(p, {.spine = {{76, 70}, {150, 58}, {230, 66}, {328, 50}},
+        branch(p, {.spine = {{102, 70}, {160, 60}, {230, 66}, {306, 54}},
                    .leaf = {.shape = shapes::lance, .margin = serrate(14, 0.1), .veins = 9, .petiole = 0.08},
                    .leaves = {{0.08, 128, 92, 13},
                               {0.3, -140, 66, 11},
@@ -19,8 +19,8 @@ static const Subject subject{
                               {0.72, 60, 104, 14},
                               {0.99, 20, 70, 12},
                               {0.9, 74, 84, 12}},
-                   .fruits = {{0.46, hangingPome({.length = 104,
-                                                  .shape = {16, 42, 54, 60, 61, 59, 53, 41, 8},
+                   .fruits = {{0.46, hangingPome({.length = 124,
+                                                  .shape = {19, 50, 64, 71, 73, 70, 63, 49, 10},
                                                   .palette = palettes::orange,
                                                   .blush = palettes::red,
                                                   .stalk = 8,
@@ -28,8 +28,8 @@ static const Subject subject{
                                                   .calyx = 0,
                                                   .suture = true,
                                                   .velvet = true})}}});
-        ground(p, 232, 346, 294, 3);
-        cutFace(p, {292, 250},
+        ground(p, 244, 352, 290, 3);
+        cutFace(p, {298, 244},
                 {.radius = 46,
                  .squash = 0.94,
                  .rind = mix(palettes::orange, palettes::red, 0.5),
@@ -38,7 +38,7 @@ static const Subject subject{
                  .stone = 0.42,
                  .stonePalette = palettes::brown});
         for (int k = 0; k < 26; ++k) {
-            const Point at = Point{292, 250} + Point{p.random.around(12), p.random.around(14)};
+            const Point at = Point{298, 244} + Point{p.random.around(12), p.random.around(14)};
             p.stroke({at, at + Point{p.random.around(3), 4}, at + Point{p.random.around(4), 7}},
                      {.width = 1.0});
         }

@@ -13,7 +13,7 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_214_aubepine", [](Plate& p) {
         const FlowerForm blossom{.length = 16,
-                                 .width = 8.6,
+                                 .width = 7.6,
                                  .baseAngle = 70,
                                  .tipAngle = 86,
                                  .shape = {0.4, 0.8, 1, 1, 0.8, 0},
@@ -47,6 +47,8 @@ static const Subject subject{
                                         : polar(polar(tip, degrees, 24), degrees + 60.0 * k + 30, 31);
                 FlowerForm turned = blossom;
                 turned.roll = k * 37.0;
+                turned.eye = 2.6;
+                turned.eyePalette = palettes::magenta;
                 flower(p, at, degrees, turned);
             }
         };

@@ -14,27 +14,26 @@ static const Subject subject{
     "day_228_corbeille_dor", [](Plate& p) {
         ground(p, 90, 318, 300, 5);
         relief(p,
-               {{90, 302},
-                {84, 284},
-                {104, 276},
-                {110, 256},
-                {146, 252},
-                {160, 242},
-                {206, 246},
-                {224, 238},
-                {262, 246},
-                {272, 256},
-                {298, 260},
-                {306, 278},
-                {324, 286},
-                {318, 302}},
-               {.palette = palettes::stone, .bevel = 13, .creases = true});
+               closedSpline({{96, 306},
+                             {90, 284},
+                             {108, 262},
+                             {142, 252},
+                             {160, 238},
+                             {206, 234},
+                             {240, 236},
+                             {268, 250},
+                             {300, 258},
+                             {320, 284},
+                             {312, 306},
+                             {206, 310}},
+                            5),
+               {.palette = palettes::stone, .bevel = 40, .creases = true});
         struct Tuft {
             Point foot, top;
         };
         std::vector<Tuft> tufts;
-        for (int k = 0; k < 11; ++k) {
-            const double f = (k - 5) / 5.0;
+        for (int k = 0; k < 9; ++k) {
+            const double f = (k - 4) / 4.0;
             tufts.push_back({{202 + f * 46, 258}, {202 + f * 112, 132 + 74 * f * f + (k % 2 == 0 ? 0 : 22)}});
         }
         std::sort(tufts.begin(), tufts.end(), [](const Tuft& a, const Tuft& b) { return a.top.y < b.top.y; });
@@ -53,7 +52,7 @@ static const Subject subject{
             const Path spine{t.foot, lerp(t.foot, t.top, 0.5) + Point{0, -10}, t.top};
             stem(p, spine, {1.7, 1.3});
             corymb({.flower = flowers({.petals = 4,
-                                       .length = 9.4,
+                                       .length = 10.4,
                                        .width = 4.6,
                                        .baseAngle = 72,
                                        .tipAngle = 88,
@@ -64,7 +63,7 @@ static const Subject subject{
                                        .eye = 1.6,
                                        .eyePalette = palettes::gold,
                                        .washLift = 0.2}),
-                    .count = 9,
+                    .count = 8,
                     .spread = 190,
                     .length = 29})(p, spline(spine));
         }

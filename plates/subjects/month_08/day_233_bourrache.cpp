@@ -38,9 +38,9 @@ static const Subject subject{
                      {corymb({.flower =
                                   [star](Plate& plate, Point at, double degrees, double scale, int) {
                                       flower(plate, at, degrees, star, scale);
-                                      const Point eye = polar(at, degrees, 2);
-                                      plate.dot(eye, 4.6 * scale, Colour(0xFFFFFF));
-                                      lathe(plate, eye, 8 * scale, {3 * scale, 2 * scale, 0.4},
+                                      const Point eye = polar(at, degrees, 1);
+                                      plate.dot(eye, 6 * scale, Colour(0xFFFFFF));
+                                      lathe(plate, eye, 12 * scale, {4 * scale, 2.6 * scale, 0.4},
                                             {.direction = degrees, .tilt = 0.5, .palette = palettes::black});
                                   },
                               .count = 3,

@@ -8,7 +8,7 @@ using namespace tambrelle::engraver;
 static const Subject subject{"day_247_fromental", [](Plate& p) {
                                  cereal(p, {.height = 282,
                                             .headLength = 176,
-                                            .stems = {-66, 64, 0},
+                                            .stems = {-96, 94, 0},
                                             .nod = 10,
                                             .radius = 1.6,
                                             .palette = palettes::stem,
@@ -17,15 +17,15 @@ static const Subject subject{"day_247_fromental", [](Plate& p) {
                                             .head = [](Plate& plate, const Path& spine) {
                                                 grassPanicle(
                                                     plate, spine, 0.08,
-                                                    {.whorls = 8,
-                                                     .width = 34,
+                                                    {.whorls = 7,
+                                                     .width = 40,
                                                      .taper = {0.8, 1, 0.7, 0.3},
                                                      .perBranch = 2,
-                                                     .spikelet = 16,
-                                                     .spikeletWidth = 3.2,
-                                                     .awn = 22,
+                                                     .spikelet = 14,
+                                                     .spikeletWidth = 2.6,
+                                                     .awn = 16,
                                                      .hang = 0.3,
-                                                     .angle = 40,
+                                                     .angle = 48,
                                                      .palette = mix(palettes::straw, palettes::lilac, 0.25)});
                                             }});
                              }};
