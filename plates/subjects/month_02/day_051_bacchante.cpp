@@ -1,0 +1,51 @@
+// Groundsel bush, Baccharis halimifolia: a woody twig, wedge leaves with a few coarse teeth, heads like
+// small shaving brushes of white silk.
+
+#include "plates/engraver/Path.h"
+#include "plates/engraver/Subject.h"
+#include "plates/engraver/Tube.h"
+#include "plates/engraver/botany/CompoundLeaf.h"
+#include "plates/engraver/botany/Flower.h"
+#include "plates/engraver/botany/Inflorescence.h"
+
+using namespace tambrelle::engraver;
+
+static const Subject subject{
+    "day_051_bacchante", [](Plate& p) {
+        const auto brush = [](Plate& plate, Point at, double degrees, double scale, int) {
+            for (int k = 0; k < 30; ++k) {
+                const double way = degrees + plate.random.around(34);
+                const Point tip = polar(at, way, (24 + plate.random.around(4)) * scale);
+                plate.flat({polar(at, way - 90, 1), polar(at, way + 90, 1), tip + Point{1.2, 0},
+                            tip + Point{-1.2, 0}},
+                           palettes::whiteflower, 0.2);
+                plate.stroke({polar(at, way, 4 * scale), tip}, {.width = 0.5, .fade = 0.5, .alpha = 0.75});
+            }
+            scales(plate, polar(at, degrees, -2), degrees,
+                   {.radius = 5, .length = 13, .rows = 4, .perRow = 6}, scale);
+        };
+        const LeafKind wedge{.shape = {0.08, 0.25, 0.55, 0.95, 0.9, 0.35, 0},
+                             .margin = dentate(3, 0.3),
+                             .veins = 3,
+                             .petiole = 0.08,
+                             .palette = palettes::greygreen};
+        const auto shoot = [&](const Path& spine, double size) {
+            const Path curve = twig(p, spine, {4.4, 3.2, 1.8});
+            for (int k = 0; k < 8; ++k) {
+                const double q = 0.12 + 0.1 * k;
+                growLeaf(p, along(curve, q), angleAlong(curve, q) + (k % 2 == 0 ? 50 : -50),
+                         (74 - 3.6 * k) * size, (16 - 0.6 * k) * size, wedge);
+            }
+            panicle({.flower = brush,
+                     .from = 0.6,
+                     .branches = 7,
+                     .perBranch = 2,
+                     .width = 40 * size,
+                     .angle = 46,
+                     .largest = size,
+                     .smallest = 0.8 * size})(p, curve);
+        };
+        shoot({{196, 338}, {160, 262}, {128, 180}, {118, 128}}, 0.86);
+        shoot({{206, 338}, {246, 262}, {276, 184}, {290, 136}}, 0.86);
+        shoot({{200, 344}, {204, 250}, {198, 160}, {202, 84}}, 1);
+    }};
