@@ -2,6 +2,7 @@
 // pips.
 
 #include "plates/engraver/Ground.h"
+#include "plates/engraver/Maths.h"
 #include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
@@ -21,10 +22,16 @@ static const Subject subject{
                               {0.7, 42, 100, 23},
                               {0.97, 26, 82, 20}},
                    .fruits = {{0.42, hangingPome({.length = 106,
-                                                  .shape = {16, 44, 57, 63, 63, 58, 49, 37, 20},
+                                                  .shape =
+                                                      +[](double q) {
+                                                          return 5 + 58 * maths::pow(
+                                                                              maths::sin(maths::pi *
+                                                                                         maths::pow(q, 0.82)),
+                                                                              0.6);
+                                                      },
                                                   .palette = mix(palettes::yellow, palettes::red, 0.45),
                                                   .blush = palettes::scarlet,
-                                                  .tilt = 0.24,
+                                                  .tilt = 0.1,
                                                   .stalk = 22,
                                                   .direction = 94,
                                                   .calyx = 6,

@@ -12,7 +12,7 @@
 using namespace tambrelle::engraver;
 
 static const Subject subject{"day_047_cresson", [](Plate& p) {
-                                 waterLines(p, 70, 330, 290, 9);
+                                 waterLines(p, 50, 350, 290, 10);
                                  const LeafKind round{.build = LeafKind::Build::pinnate,
                                                       .shape = shapes::orbicular,
                                                       .margin = wavy(4, 0.06),
@@ -20,22 +20,22 @@ static const Subject subject{"day_047_cresson", [](Plate& p) {
                                                       .petiole = 0.22,
                                                       .palette = palettes::darkleaf,
                                                       .leaflets = 2,
-                                                      .leafletWidth = 0.46};
+                                                      .leafletWidth = 0.36};
                                  const auto shoot = [&](const Path& spine, bool flowering) {
                                      const Path curve = spline(spine);
                                      for (const double q : {0.1, 0.2, 0.3})
                                          rootlets(p, along(curve, q), 4, 90, 70, 26);
-                                     for (int k = 0; k < 5; ++k) {
-                                         const double q = 0.2 + 0.15 * k;
+                                     for (int k = 0; k < 4; ++k) {
+                                         const double q = 0.26 + 0.19 * k;
                                          const double way = angleAlong(curve, q) + (k % 2 == 0 ? 62 : -62);
-                                         growLeaf(p, along(curve, q), way, 86 - 6.0 * k, 30 - 2.0 * k, round,
+                                         growLeaf(p, along(curve, q), way, 74 - 6.0 * k, 25 - 2.0 * k, round,
                                                   k % 2 == 0 ? -12 : 12);
                                      }
                                      stem(p, spine, {4, 3.6, 2.6});
                                      if (flowering)
                                          corymb({.flower = flowers({.petals = 4,
-                                                                    .length = 11,
-                                                                    .width = 6.4,
+                                                                    .length = 14,
+                                                                    .width = 8.4,
                                                                     .baseAngle = 70,
                                                                     .tipAngle = 88,
                                                                     .shape = shapes::orbicular,
@@ -45,9 +45,9 @@ static const Subject subject{"day_047_cresson", [](Plate& p) {
                                                                     .washLift = 0}),
                                                  .count = 8,
                                                  .spread = 160,
-                                                 .length = 24})(p, curve);
+                                                 .length = 34})(p, curve);
                                      else
-                                         growLeaf(p, curve.back(), -70, 70, 27, round);
+                                         growLeaf(p, curve.back(), -70, 52, 21, round);
                                  };
                                  shoot({{86, 296}, {130, 280}, {158, 220}, {146, 150}}, false);
                                  shoot({{316, 296}, {276, 282}, {250, 214}, {262, 140}}, false);

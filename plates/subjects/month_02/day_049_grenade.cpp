@@ -35,11 +35,13 @@ static const Subject subject{
         };
         stem(p, {{196, 55}, {186, 70}, {176, 88}}, {3, 3.4}, palettes::bark);
         crown({164, 206}, 98, 1);
-        lathe(p, {178, 84}, 124, {12, 40, 56, 63, 62, 53, 36, 17, 12},
-              {.direction = 97,
-               .tilt = 0.06,
-               .palette = mix(palettes::red, palettes::orange, 0.25),
-               .lines = Lines::along});
+        lathe(
+            p, {178, 84}, 124,
+            +[](double q) { return 10 + 52 * maths::pow(maths::sin(maths::pi * maths::pow(q, 0.92)), 0.6); },
+            {.direction = 97,
+             .tilt = 0.06,
+             .palette = mix(palettes::red, palettes::orange, 0.25),
+             .lines = Lines::along});
         ground(p, 216, 352, 306, 3);
         crown({332, 236}, -28, 0.8);
         const Path half = ellipse({288, 254}, 52, 50);

@@ -13,16 +13,17 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_051_bacchante", [](Plate& p) {
         const auto brush = [](Plate& plate, Point at, double degrees, double scale, int) {
-            for (int k = 0; k < 30; ++k) {
+            for (int k = 0; k < 15; ++k) {
                 const double way = degrees + plate.random.around(34);
-                const Point tip = polar(at, way, (24 + plate.random.around(4)) * scale);
-                plate.flat({polar(at, way - 90, 1), polar(at, way + 90, 1), tip + Point{1.2, 0},
-                            tip + Point{-1.2, 0}},
-                           palettes::whiteflower, 0.2);
-                plate.stroke({polar(at, way, 4 * scale), tip}, {.width = 0.5, .fade = 0.5, .alpha = 0.75});
+                const Point tip = polar(at, way, (30 + plate.random.around(4)) * scale);
+                plate.flat({polar(at, way - 90, 2.4 * scale), polar(tip, way - 90, 2.6 * scale),
+                            polar(tip, way, 2 * scale), polar(tip, way + 90, 2.6 * scale),
+                            polar(at, way + 90, 2.4 * scale)},
+                           palettes::whiteflower, 0.06);
+                plate.stroke({polar(at, way, 4 * scale), tip}, {.width = 0.45, .fade = 0.6, .alpha = 0.55});
             }
             scales(plate, polar(at, degrees, -2), degrees,
-                   {.radius = 5, .length = 13, .rows = 4, .perRow = 6}, scale);
+                   {.radius = 6.5, .length = 17, .rows = 4, .perRow = 6}, scale);
         };
         const LeafKind wedge{.shape = {0.08, 0.25, 0.55, 0.95, 0.9, 0.35, 0},
                              .margin = dentate(3, 0.3),
@@ -38,8 +39,8 @@ static const Subject subject{
             }
             panicle({.flower = brush,
                      .from = 0.6,
-                     .branches = 7,
-                     .perBranch = 2,
+                     .branches = 8,
+                     .perBranch = 1,
                      .width = 40 * size,
                      .angle = 46,
                      .largest = size,

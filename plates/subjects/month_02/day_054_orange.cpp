@@ -2,6 +2,7 @@
 // a half with its segments.
 
 #include "plates/engraver/Ground.h"
+#include "plates/engraver/Maths.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/botany/Branch.h"
 #include "plates/engraver/botany/Flower.h"
@@ -22,8 +23,14 @@ static const Subject subject{
                         {0.62, -50, 84, 19},
                         {0.74, 52, 96, 20},
                         {0.98, 18, 84, 19}},
-             .fruits = {{0.42, hangingPome({.length = 112,
-                                            .shape = {8, 40, 56, 63, 64, 60, 50, 34, 8},
+             .fruits = {{0.42, hangingPome({.length = 118,
+                                            .shape =
+                                                +[](double q) {
+                                                    return 4 +
+                                                           58 * maths::pow(maths::sin(maths::pi *
+                                                                                      maths::pow(q, 0.95)),
+                                                                           0.58);
+                                                },
                                             .palette = palettes::orange,
                                             .tilt = 0.1,
                                             .stalk = 10,

@@ -26,14 +26,17 @@ static const Subject subject{
         const Path axis{{204, 62}, {200, 120}, {206, 196}};
         stem(p, axis, {2.4, 1.6}, palettes::redstem);
         const Path rachis = spline(axis);
-        for (int k = 0; k < 22; ++k) {
-            const double q = 0.2 + 0.8 * k / 21.0;
+        for (int k = 0; k < 26; ++k) {
+            const double q = 0.2 + 0.8 * k / 25.0;
             const double side = k % 2 == 0 ? 1 : -1;
             const Point at = along(rachis, q),
-                        tip = at + Point{side * (42 - 26 * q + p.random.around(7)), 14 + p.random.around(6)};
+                        tip =
+                            at + Point{side * ((k % 4 < 2 ? 52 : 28) * (1.1 - 0.7 * q) + p.random.around(5)),
+                                       14 + p.random.around(6)};
             stem(p, {at, lerp(at, tip, 0.6) + Point{0, -3}, tip}, {1.2, 1}, palettes::redstem);
             ball(p, tip, 12,
-                 {.palette = mix(palettes::rose, palettes::leafy, p.random.uniform(0.1, 0.5)),
+                 {.palette = mix(mix(palettes::rose, palettes::crimson, 0.3), palettes::leafy,
+                                 p.random.uniform(0.1, 0.5)),
                   .direction = -110 + 30 * side,
                   .squash = 1.4});
         }

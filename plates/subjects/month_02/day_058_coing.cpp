@@ -2,6 +2,7 @@
 // entire leaves felted beneath.
 
 #include "plates/engraver/Lathe.h"
+#include "plates/engraver/Maths.h"
 #include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
@@ -28,13 +29,17 @@ static const Subject subject{
         for (const double f : {-60.0, 60.0, -30.0, 30.0, 0.0})
             leaflet(p, eye, polar(eye + Point{0, 2}, 92 + f, 26),
                     {.width = 6, .palette = palettes::greygreen});
-        const LatheSurface fruit = lathe(p, {205, 84}, 178, {16, 28, 36, 50, 66, 74, 74, 64, 40, 14},
-                                         {.direction = 92,
-                                          .tilt = 0.06,
-                                          .palette = mix(palettes::yellow, palettes::gold, 0.3),
-                                          .lines = Lines::along,
-                                          .ribs = 5,
-                                          .ribDepth = 0.05});
+        const LatheSurface fruit = lathe(
+            p, {205, 84}, 178,
+            +[](double q) {
+                return 16 * (1 - q) + 6 + 62 * maths::pow(maths::sin(maths::pi * maths::pow(q, 1.4)), 0.8);
+            },
+            {.direction = 92,
+             .tilt = 0.06,
+             .palette = mix(palettes::yellow, palettes::gold, 0.3),
+             .lines = Lines::along,
+             .ribs = 5,
+             .ribDepth = 0.05});
         for (int k = 0; k < 260; ++k) {
             const double u = p.random.uniform(0.02, 0.4), a = p.random.uniform(10, 170);
             const Point at = fruit.at(u, a);

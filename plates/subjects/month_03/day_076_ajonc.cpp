@@ -28,9 +28,9 @@ static const Subject subject{
         const Path curve = spline(main);
         const Path left{along(curve, 0.24), {140, 220}, {98, 120}},
             right{along(curve, 0.34), {266, 196}, {304, 104}};
-        spiny(left, 11, 40);
-        spiny(right, 11, 40);
-        spiny(main, 18, 46);
+        spiny(left, 13, 56);
+        spiny(right, 13, 56);
+        spiny(main, 20, 60);
         const auto bloom = [&](const Path& way, double from, int count) {
             const Path c = spline(way);
             for (int k = 0; k < count; ++k) {
@@ -40,7 +40,7 @@ static const Subject subject{
                           side > 0 ? 1 : -1, mix(palettes::yellow, palettes::orange, 0.3));
             }
         };
-        bloom(left, 0.4, 6);
-        bloom(right, 0.4, 6);
-        bloom(main, 0.4, 9);
+        bloom(left, 0.5, 4);
+        bloom(right, 0.5, 4);
+        bloom(main, 0.5, 5);
     }};

@@ -1,0 +1,66 @@
+// Sorrel, Rumex acetosa: arrow leaves whose barbs point back, a slim branched spire of reddish round-winged
+// fruits.
+
+#include "plates/engraver/Path.h"
+#include "plates/engraver/Subject.h"
+#include "plates/engraver/Tube.h"
+#include "plates/engraver/botany/CompoundLeaf.h"
+#include "plates/engraver/botany/Herb.h"
+
+using namespace tambrelle::engraver;
+
+static const Subject subject{
+    "day_084_oseille", [](Plate& p) {
+        const LeafKind arrow{.build = LeafKind::Build::palmate,
+                             .petiole = 0.42,
+                             .stalk = palettes::redstem,
+                             .lobes = {{-162, 0.34}, {0, 1}, {162, 0.34}},
+                             .sinus = 0.9,
+                             .teeth = 0,
+                             .bulge = 1.5};
+        const Palette rust = mix(palettes::red, palettes::rose, 0.4);
+        herb(p, {.foot = {200, 322},
+                 .height = 250,
+                 .stems = {0},
+                 .stemRadius = 4,
+                 .tipRadius = 2,
+                 .stemPalette = palettes::redstem,
+                 .leaf = arrow,
+                 .leaves = 2,
+                 .leavesFrom = 0.26,
+                 .leavesTo = 0.4,
+                 .leafLength = 86,
+                 .topLeafLength = 60,
+                 .leafWidth = 24,
+                 .topLeafWidth = 16,
+                 .leafAngle = 46,
+                 .basal = 5,
+                 .basalLength = 148,
+                 .basalWidth = 34,
+                 .basalSpread = 80,
+                 .root = RootKind::taproot,
+                 .inflorescence = [rust](Plate& plate, const Path& curve) {
+                     const auto fruits = [&](const Path& way, double from, int nodes, double size) {
+                         for (int k = 0; k < nodes; ++k) {
+                             const double q = from + (1 - from) * k / (nodes - 1);
+                             for (const double s : {-1.0, 0.0, 1.0}) {
+                                 const double d = angleAlong(way, q) + s * 80 + plate.random.around(16);
+                                 const Point at = polar(along(way, q), d, (s == 0 ? 2 : 8) * size);
+                                 const Path wing = ellipse(at, 6 * size, 5.4 * size, 20);
+                                 plate.knockOut(wing, {.halo = 0.3, .shade = 0.15});
+                                 plate.flat(wing, rust, 0.3 + plate.random.around(0.15));
+                                 plate.contour(wing, 0.6);
+                                 plate.flat(ellipse(at, 2.2 * size, 3.2 * size, 16), rust, 0.85);
+                             }
+                         }
+                     };
+                     for (int k = 0; k < 7; ++k) {
+                         const double q = 0.52 + 0.06 * k, s = k % 2 == 0 ? 1 : -1;
+                         const Point from = along(curve, q), to = polar(from, -90 + s * 36, 78 - 8.0 * k);
+                         const Path way = spline({from, lerp(from, to, 0.5) + Point{s * 6, 0}, to});
+                         stem(plate, way, {1.4, 1}, palettes::redstem);
+                         fruits(way, 0.2, 9 - k / 2, 0.9);
+                     }
+                     fruits(curve, 0.6, 17, 1);
+                 }});
+    }};
