@@ -13,17 +13,19 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_051_bacchante", [](Plate& p) {
         const auto brush = [](Plate& plate, Point at, double degrees, double scale, int) {
-            for (int k = 0; k < 15; ++k) {
-                const double way = degrees + plate.random.around(34);
-                const Point tip = polar(at, way, (30 + plate.random.around(4)) * scale);
-                plate.flat({polar(at, way - 90, 2.4 * scale), polar(tip, way - 90, 2.6 * scale),
-                            polar(tip, way, 2 * scale), polar(tip, way + 90, 2.6 * scale),
-                            polar(at, way + 90, 2.4 * scale)},
-                           palettes::whiteflower, 0.06);
-                plate.stroke({polar(at, way, 4 * scale), tip}, {.width = 0.45, .fade = 0.6, .alpha = 0.55});
-            }
+            Path fan{polar(at, degrees - 90, 4 * scale)};
+            for (int k = -4; k <= 4; ++k)
+                fan.push_back(polar(at, degrees + k * 7.5, (k % 2 == 0 ? 30 : 26) * scale));
+            fan.push_back(polar(at, degrees + 90, 4 * scale));
+            plate.knockOut(fan);
+            plate.flat(fan, palettes::whiteflower, 0.12);
+            plate.contour(fan, 0.7);
+            for (int k = -3; k <= 3; ++k)
+                plate.stroke(
+                    {polar(at, degrees + k * 5.0, 8 * scale), polar(at, degrees + k * 7.5, 26 * scale)},
+                    {.width = 0.5});
             scales(plate, polar(at, degrees, -2), degrees,
-                   {.radius = 6.5, .length = 17, .rows = 4, .perRow = 6}, scale);
+                   {.radius = 5, .length = 12, .rows = 4, .perRow = 6}, scale);
         };
         const LeafKind wedge{.shape = {0.08, 0.25, 0.55, 0.95, 0.9, 0.35, 0},
                              .margin = dentate(3, 0.3),

@@ -51,6 +51,6 @@ static const Subject subject{
                 p.dot(polar(end, a, 4), 1.4, sepia);
             }
         };
-        umbelAt({266, 58}, 40);
-        umbelAt({240, 64}, -60);
+        umbelAt({266, 58}, 84);
+        umbelAt({266, 58}, -4);
     }};

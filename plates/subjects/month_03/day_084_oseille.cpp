@@ -14,8 +14,8 @@ static const Subject subject{
         const LeafKind arrow{.build = LeafKind::Build::palmate,
                              .petiole = 0.42,
                              .stalk = palettes::redstem,
-                             .lobes = {{-162, 0.34}, {0, 1}, {162, 0.34}},
-                             .sinus = 0.9,
+                             .lobes = {{-148, 0.42}, {0, 1}, {148, 0.42}},
+                             .sinus = 0.8,
                              .teeth = 0,
                              .bulge = 1.5};
         const Palette rust = mix(palettes::red, palettes::rose, 0.4);
@@ -34,16 +34,16 @@ static const Subject subject{
                  .leafWidth = 24,
                  .topLeafWidth = 16,
                  .leafAngle = 46,
-                 .basal = 5,
-                 .basalLength = 148,
-                 .basalWidth = 34,
+                 .basal = 4,
+                 .basalLength = 128,
+                 .basalWidth = 26,
                  .basalSpread = 80,
                  .root = RootKind::taproot,
                  .inflorescence = [rust](Plate& plate, const Path& curve) {
                      const auto fruits = [&](const Path& way, double from, int nodes, double size) {
                          for (int k = 0; k < nodes; ++k) {
                              const double q = from + (1 - from) * k / (nodes - 1);
-                             for (const double s : {-1.0, 0.0, 1.0}) {
+                             for (const double s : {-1.0, 1.0}) {
                                  const double d = angleAlong(way, q) + s * 80 + plate.random.around(16);
                                  const Point at = polar(along(way, q), d, (s == 0 ? 2 : 8) * size);
                                  const Path wing = ellipse(at, 6 * size, 5.4 * size, 20);
@@ -56,11 +56,11 @@ static const Subject subject{
                      };
                      for (int k = 0; k < 7; ++k) {
                          const double q = 0.52 + 0.06 * k, s = k % 2 == 0 ? 1 : -1;
-                         const Point from = along(curve, q), to = polar(from, -90 + s * 36, 78 - 8.0 * k);
+                         const Point from = along(curve, q), to = polar(from, -90 + s * 42, 70 - 7.0 * k);
                          const Path way = spline({from, lerp(from, to, 0.5) + Point{s * 6, 0}, to});
                          stem(plate, way, {1.4, 1}, palettes::redstem);
-                         fruits(way, 0.2, 9 - k / 2, 0.9);
+                         fruits(way, 0.2, 6 - k / 3, 0.95);
                      }
-                     fruits(curve, 0.6, 17, 1);
+                     fruits(curve, 0.84, 6, 1);
                  }});
     }};

@@ -20,7 +20,8 @@ static const Subject subject{
             for (int k = 0; k < 11; ++k)
                 rim.push_back(at + direction(k * 360.0 / 11) * (radius * (1 + p.random.around(0.07))));
             const Path outline = closedSpline(rim);
-            relief(p, outline, {.palette = hue, .bevel = radius, .hatched = false, .tone = -0.02});
+            relief(p, outline,
+                   {.palette = hue, .bevel = radius, .hatched = false, .tone = 0.3, .highlight = 0});
             struct Wart {
                 double x, y;
             };

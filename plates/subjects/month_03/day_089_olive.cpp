@@ -2,6 +2,7 @@
 // fruits from green to violet-black.
 
 #include "plates/engraver/Lathe.h"
+#include "plates/engraver/Maths.h"
 #include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
@@ -30,7 +31,9 @@ static const Subject subject{
             const Point from = along(curve, q);
             stem(p, {from, lerp(from, at, 0.5) + Point{2, 0}, at}, {1.6, 1.6});
             lathe(p, at + Point{0, -2}, 72 * size,
-                  {6 * size, 18 * size, 24.5 * size, 26 * size, 24 * size, 16 * size, 3 * size},
+                  Profile(+[](double q) {
+                      return 2 + 24 * maths::pow(maths::sin(maths::pi * maths::pow(q, 0.95)), 0.62);
+                  }).times(size),
                   {.direction = 92, .tilt = 0.1, .palette = palette, .lines = Lines::along});
         };
         const Palette dark = mix(palettes::grape, palettes::berry, 0.5);
