@@ -18,14 +18,14 @@ static const Subject subject{
                    .trunk = 9,
                    .palette = palettes::darkleaf,
                    .clump = 0.34,
-                   .tiers = 5});
+                   .tiers = 7});
         ground(p, 200, 340, 330, 3);
         const Path bough{{50, 216}, {110, 190}, {176, 186}, {230, 160}};
         needleTufts(p, bough, 9, 20, 22, palettes::bluegreen, 170);
         tube(p, bough, {6, 5, 4, 2}, {.palette = palettes::bark, .rough = 0.16});
         cone(p, {130, 190}, -90,
-             {.length = 108,
-              .radius = 37,
+             {.length = 96,
+              .radius = 32,
               .shape = {0.6, 0.92, 1, 1, 0.95, 0.8, 0.45},
               .rows = 16,
               .perRow = 7,

@@ -4,20 +4,28 @@
 #include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
-#include "plates/engraver/botany/CompoundLeaf.h"
 #include "plates/engraver/botany/Herb.h"
+#include "plates/engraver/botany/Leaf.h"
 
 using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_084_oseille", [](Plate& p) {
-        const LeafKind arrow{.build = LeafKind::Build::palmate,
-                             .petiole = 0.42,
-                             .stalk = palettes::redstem,
-                             .lobes = {{-148, 0.42}, {0, 1}, {148, 0.42}},
-                             .sinus = 0.8,
-                             .teeth = 0,
-                             .bulge = 1.5};
+        const auto arrow = [&](const Path& spine, Point tip, double width) {
+            const Path stalk = stem(p, spine, {2.2, 1.8}, palettes::redstem);
+            const Point from = stalk.back();
+            const double way = angleOf(tip - from);
+            const Point bend = polar(lerp(from, tip, 0.5), way - 90, 5);
+            for (const double s : {-1.0, 1.0})
+                leaflet(p, polar(from, way, 12), polar(polar(from, way + 180, 24), way + s * 90, width * 0.9),
+                        {.width = width * 0.36, .shape = {0.9, 1, 0.8, 0.5, 0}, .contour = 0.7});
+            leaf(p, {polar(from, way, -3), bend, tip},
+                 {.width = width, .shape = {0.75, 0.95, 1, 0.9, 0.7, 0.4, 0}, .veins = 6});
+        };
+        arrow({{198, 318}, {150, 306}, {120, 270}}, {84, 176}, 21);
+        arrow({{202, 318}, {250, 306}, {280, 270}}, {316, 176}, 21);
+        arrow({{198, 318}, {170, 270}, {156, 226}}, {138, 130}, 20);
+        arrow({{202, 318}, {232, 272}, {246, 230}}, {264, 136}, 20);
         const Palette rust = mix(palettes::red, palettes::rose, 0.4);
         herb(p, {.foot = {200, 322},
                  .height = 250,
@@ -25,19 +33,8 @@ static const Subject subject{
                  .stemRadius = 4,
                  .tipRadius = 2,
                  .stemPalette = palettes::redstem,
-                 .leaf = arrow,
-                 .leaves = 2,
-                 .leavesFrom = 0.26,
-                 .leavesTo = 0.4,
-                 .leafLength = 86,
-                 .topLeafLength = 60,
-                 .leafWidth = 24,
-                 .topLeafWidth = 16,
-                 .leafAngle = 46,
-                 .basal = 4,
-                 .basalLength = 128,
-                 .basalWidth = 26,
-                 .basalSpread = 80,
+
+                 .leaves = 0,
                  .root = RootKind::taproot,
                  .inflorescence = [rust](Plate& plate, const Path& curve) {
                      const auto fruits = [&](const Path& way, double from, int nodes, double size) {

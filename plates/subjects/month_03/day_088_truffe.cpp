@@ -42,16 +42,16 @@ static const Subject subject{
                                                (size * (1 + p.random.around(0.14))));
                     const double lit = dot(direction(a), direction(-128)) * ring / 7.0;
                     p.knockOut(wart, {.halo = 0.5, .shade = 0.2});
-                    p.flat(wart, hue, 0.56 - 0.34 * lit);
-                    p.flat({wart[1], wart[2], c, wart[0]}, hue, 0.78 - 0.3 * lit);
+                    p.flat(wart, hue, 0.5 - 0.5 * lit);
+                    p.flat({wart[1], wart[2], c, wart[0]}, hue, 0.72 - 0.4 * lit);
                     p.contour(wart, 0.8);
                     p.stroke({c + Point{-size * 0.4, -size * 0.4}, c + Point{size * 0.2, -size * 0.5}},
                              {.width = 0.8, .colour = hue.light, .alpha = 0.8});
                 }
             }
         };
-        truffle({140, 178}, 76);
-        truffle({274, 148}, 52);
+        truffle({140, 216}, 76);
+        truffle({262, 146}, 50);
         const Point middle{264, 240};
         const Path cut = closedSpline({{264, 186},
                                        {304, 196},
