@@ -3,6 +3,7 @@
 
 #include "plates/engraver/Ground.h"
 #include "plates/engraver/Lathe.h"
+#include "plates/engraver/Maths.h"
 #include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
@@ -36,8 +37,10 @@ static const Subject subject{
                      .bulge = 1.6});
         const auto fig = [&](Point at, double degrees, double size) {
             lathe(p, at, 86 * size,
-                  {4 * size, 8 * size, 15 * size, 25 * size, 33 * size, 35 * size, 29 * size, 15 * size,
-                   5 * size},
+                  Profile(+[](double q) {
+                      return 5 * (1 - q) + 3 +
+                             32 * maths::pow(maths::sin(maths::pi * maths::pow(q, 1.5)), 0.85);
+                  }).times(size),
                   {.direction = degrees,
                    .tilt = 0.16,
                    .palette = mix(palettes::grape, palettes::plum, 0.4),

@@ -20,15 +20,15 @@ static const Subject subject{"day_047_cresson", [](Plate& p) {
                                                       .petiole = 0.22,
                                                       .palette = palettes::darkleaf,
                                                       .leaflets = 2,
-                                                      .leafletWidth = 0.36};
+                                                      .leafletWidth = 0.32};
                                  const auto shoot = [&](const Path& spine, bool flowering) {
                                      const Path curve = spline(spine);
                                      for (const double q : {0.1, 0.2, 0.3})
                                          rootlets(p, along(curve, q), 4, 90, 70, 26);
-                                     for (int k = 0; k < 4; ++k) {
-                                         const double q = 0.26 + 0.19 * k;
+                                     for (int k = 0; k < 3; ++k) {
+                                         const double q = 0.3 + 0.26 * k;
                                          const double way = angleAlong(curve, q) + (k % 2 == 0 ? 62 : -62);
-                                         growLeaf(p, along(curve, q), way, 74 - 6.0 * k, 25 - 2.0 * k, round,
+                                         growLeaf(p, along(curve, q), way, 70 - 5.0 * k, 21 - 1.5 * k, round,
                                                   k % 2 == 0 ? -12 : 12);
                                      }
                                      stem(p, spine, {4, 3.6, 2.6});

@@ -26,18 +26,18 @@ static const Subject subject{
         const Path axis{{204, 62}, {200, 120}, {206, 196}};
         stem(p, axis, {2.4, 1.6}, palettes::redstem);
         const Path rachis = spline(axis);
-        for (int k = 0; k < 26; ++k) {
-            const double q = 0.2 + 0.8 * k / 25.0;
+        for (int k = 0; k < 18; ++k) {
+            const double q = 0.2 + 0.8 * k / 17.0;
             const double side = k % 2 == 0 ? 1 : -1;
             const Point at = along(rachis, q),
                         tip =
-                            at + Point{side * ((k % 4 < 2 ? 52 : 28) * (1.1 - 0.7 * q) + p.random.around(5)),
-                                       14 + p.random.around(6)};
+                            at + Point{side * ((k % 4 < 2 ? 58 : 26) * (1.1 - 0.6 * q) + p.random.around(9)),
+                                       12 + p.random.around(12)};
             stem(p, {at, lerp(at, tip, 0.6) + Point{0, -3}, tip}, {1.2, 1}, palettes::redstem);
             ball(p, tip, 12,
                  {.palette = mix(mix(palettes::rose, palettes::crimson, 0.3), palettes::leafy,
                                  p.random.uniform(0.1, 0.5)),
-                  .direction = -110 + 30 * side,
+                  .direction = -60 - 60 * (side > 0 ? 1 : 0) + p.random.around(30),
                   .squash = 1.4});
         }
         const auto gaping = [&](Point at, double degrees, double size) {
