@@ -1,0 +1,53 @@
+// Heather, Erica cinerea: wiry stems crowded with needle leaves in threes, one-sided spires of small rosy
+// urns with pinched mouths.
+
+#include "plates/engraver/Path.h"
+#include "plates/engraver/Subject.h"
+#include "plates/engraver/Tube.h"
+#include "plates/engraver/botany/Flower.h"
+#include "plates/engraver/botany/Leaf.h"
+
+using namespace tambrelle::engraver;
+
+static const Subject subject{
+    "day_082_bruyere", [](Plate& p) {
+        const auto spire = [&](const Path& spine, double size) {
+            const Path curve = spline(spine);
+            for (int k = 0; k < 30; ++k) {
+                const double q = 0.04 + 0.6 * k / 29.0;
+                const Point at = along(curve, q);
+                const double way = angleAlong(curve, q);
+                for (const double f : {-62.0, 60.0, k % 2 == 0 ? 24.0 : -24.0})
+                    leaflet(p, at, polar(at, way + f + p.random.around(8), 17 * size),
+                            {.width = 1.5,
+                             .palette = k % 3 == 0 ? palettes::leaf : palettes::darkleaf,
+                             .shape = {0.7, 1, 0.9, 0.6, 0},
+                             .hatched = false,
+                             .midrib = false});
+            }
+            tube(p, spine, {2.6, 2, 1.2}, {.palette = palettes::bark});
+            const Palette rosy = mix(palettes::rose, palettes::magenta, 0.55);
+            for (int k = 13; k >= 0; --k) {
+                const double q = 0.5 + 0.5 * k / 13.0, scale = size * (1.1 - 0.035 * k);
+                for (const double s : {-1.0, 1.0}) {
+                    const Point at = along(curve, q);
+                    const double way = (k == 13 && s > 0) ? -90 : s > 0 ? 24.0 : 132.0 - 10 * (k % 2);
+                    const Point end = polar(at + Point{0, 0}, way - 14 * s, (s > 0 ? 13 : 9) * scale);
+                    stem(p, {at, end}, {0.9, 0.8}, palettes::redstem);
+                    bell(p, end, way + 12 * s,
+                         {.length = 17,
+                          .radius = 6.8,
+                          .shape = {0.35, 0.9, 1.08, 1, 0.72, 0.42, 0.62},
+                          .lobes = 4,
+                          .lobeDepth = 0.1,
+                          .palette = rosy,
+                          .tilt = 16,
+                          .sepals = 4},
+                         scale);
+                }
+            }
+        };
+        spire({{196, 344}, {164, 270}, {122, 190}, {108, 116}}, 0.92);
+        spire({{206, 344}, {240, 270}, {278, 190}, {296, 122}}, 0.92);
+        spire({{200, 348}, {204, 250}, {196, 160}, {204, 66}}, 1.1);
+    }};
