@@ -48,7 +48,7 @@ LatheSurface cask(Plate& plate, Point base, double height, const Profile& radius
         return tone + 0.06 * maths::sin(stave * 12.9898);
     };
     const double flat = std::sqrt(1 - form.tilt * form.tilt);
-    const LatheSurface s = lathe(plate, base, height / flat, radius, wood);
+    LatheSurface s = lathe(plate, base, height / flat, radius, wood);
     joints(plate, s, staves);
     for (const double u : form.hoops)
         hoop(plate, s, u, {.breadth = form.hoopBreadth, .palette = form.hoopPalette});
