@@ -48,7 +48,7 @@ LatheSurface cask(Plate& plate, Point base, double height, const Profile& radius
         return tone + 0.06 * maths::sin(stave * 12.9898);
     };
     const double flat = std::sqrt(1 - form.tilt * form.tilt);
-    const LatheSurface s = lathe(plate, base, height / flat, radius, wood);
+    LatheSurface s = lathe(plate, base, height / flat, radius, wood);
     joints(plate, s, staves);
     for (const double u : form.hoops)
         hoop(plate, s, u, {.breadth = form.hoopBreadth, .palette = form.hoopPalette});
@@ -100,9 +100,8 @@ void mouth(Plate& plate, const LatheSurface& s, const MouthForm& form) {
         plate.hatch(wall, {.spacing = 1.8, .from = 0.2});
         for (int k = 0; k < form.staves; ++k) {
             const double degrees = turn / 2 + (k + 0.5) / form.staves * turn / 2;
-            plate.stroke(
-                {s.at(1, degrees, -form.rim), s.at(1 - form.depth * 0.6, degrees, -form.rim)},
-                {.width = 0.6, .swell = 0, .fade = 0.3});
+            plate.stroke({s.at(1, degrees, -form.rim), s.at(1 - form.depth * 0.6, degrees, -form.rim)},
+                         {.width = 0.6, .swell = 0, .fade = 0.3});
         }
         if (form.liquid) {
             const Path surface = s.ring(1 - form.level, 0, turn, -form.rim - 1);

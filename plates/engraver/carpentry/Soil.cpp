@@ -10,16 +10,17 @@ void soil(Plate& plate, Point centre, double radiusX, double radiusY) {
     const Noise jag(plate.random.bits(), 2);
     for (std::size_t k = 0; k < rough.size(); ++k) {
         const Point d = unit(rough[k] - centre);
-        rough[k] = rough[k] + d * (1.6 * jag(d.x * 6 + 20, d.y * 6 + 20));
+        rough[k] = rough[k] + d * (std::min(0.24 * radiusY, 4.0) * jag(rough[k].x / 9, d.y * 2 + 20));
     }
     const Noise lumps(plate.random.bits(), 3, 0.55);
     ReliefForm form;
     form.palette = palettes::earth;
-    form.tone = -0.08;
+    form.tone = 0.12;
+    form.highlight = 0;
     form.spacing = 1.9;
-    form.crossFrom = 0.7;
+    form.crossFrom = 0.8;
     form.soften = 1;
-    form.creases = true;
+    form.occlusion = true;
     form.contour = 0.7;
     const double rise = std::min(radiusX, radiusY);
     form.height = [lumps, rise](Point at, double depth) {

@@ -47,8 +47,8 @@ void weave(Plate& plate, const Woven& surface, const WeaveForm& form) {
                 for (std::size_t j = 0; j < n; ++j) {
                     const double across = fraction(i, m), t = fraction(j, n);
                     patch.point(i, j) = lerp(upper[j], lower[j], across);
-                    patch.tone(i, j) = clamp01(tone + 0.28 * (across - 0.45) +
-                                               0.34 * maths::pow(std::fabs(2 * t - 1), 2.5));
+                    patch.tone(i, j) =
+                        clamp01(tone + 0.28 * (across - 0.45) + 0.34 * maths::pow(std::fabs(2 * t - 1), 2.5));
                 }
             plate.wash(patch, form.palette, 0.85);
             plate.hatch(patch.transposed(), {.spacing = 1.9, .from = 0.34});
@@ -78,8 +78,10 @@ void lay(Plate& plate, const Path& spine, double radius, double step, double sla
     for (std::size_t i = 1; i + 1 < count; ++i) {
         const Point a = s[i] - n[i] * radius - t[i] * (slant * 0.5);
         const Point b = s[i] + n[i] * radius + t[i] * (slant * 0.5);
-        plate.stroke(spline({a, lerp(a, b, 0.3) - t[i] * (slant * 0.10), lerp(a, b, 0.7) + t[i] * (slant * 0.10), b}, 6),
-                     {.width = width, .swell = 0.15, .fade = 0.05, .wobble = 0});
+        plate.stroke(
+            spline({a, lerp(a, b, 0.3) - t[i] * (slant * 0.10), lerp(a, b, 0.7) + t[i] * (slant * 0.10), b},
+                   6),
+            {.width = width, .swell = 0.15, .fade = 0.05, .wobble = 0});
     }
 }
 
@@ -87,8 +89,10 @@ void lay(Plate& plate, const Path& spine, double radius, double step, double sla
 
 void plait(Plate& plate, const Path& spine, double radius, const Palette& palette) {
     const double r = radius, end = radius * 0.45; // the rods' ends are tucked in
-    const Path s = tube(plate, spine, {end, r, r, r, r, r, r, r, r, r, end}, {.palette = palette, .spacing = 1.8, .contour = 0.8, .bow = 0});
-    const Path middle(s.begin() + static_cast<std::ptrdiff_t>(s.size() / 24), s.end() - static_cast<std::ptrdiff_t>(s.size() / 24));
+    const Path s = tube(plate, spine, {end, r, r, r, r, r, r, r, r, r, end},
+                        {.palette = palette, .spacing = 1.8, .contour = 0.8, .bow = 0});
+    const Path middle(s.begin() + static_cast<std::ptrdiff_t>(s.size() / 24),
+                      s.end() - static_cast<std::ptrdiff_t>(s.size() / 24));
     lay(plate, middle, radius * 0.97, radius * 1.5, radius * 2.6, 0.8);
 }
 

@@ -70,8 +70,8 @@ void wheel(Plate& plate, Point centre, const WheelForm& form) {
     turnedHub.palette = palettes::wood;
     turnedHub.spacing = 1.6;
     const double span = length(form.depth) * 3;
-    const LatheSurface nave = lathe(plate, centre + form.depth, span,
-                                    {hub, hub * 1.1, hub * 0.95, hub * 0.8}, turnedHub);
+    const LatheSurface nave =
+        lathe(plate, centre + form.depth, span, {hub, hub * 1.1, hub * 0.95, hub * 0.8}, turnedHub);
     const Path end = nave.ring(1);
     plate.knockOut(end, {.halo = 0, .shade = 0});
     plate.flat(end, palettes::wood, 0.2);
