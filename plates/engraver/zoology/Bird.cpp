@@ -51,7 +51,7 @@ void wing(Plate& plate, Point shoulder, const WingForm& form) {
     constexpr int counts[] = {9, 9, 8, 7};
     constexpr double lengths[] = {24, 20, 17, 14}, starts[] = {40, 26, 14, 4},
                      widths[] = {5.6, 5.2, 4.8, 4.4};
-    for (int r = 0; r < form.rows; ++r)
+    for (int r = 0; r < 4; ++r)
         for (int i = counts[r] - 1; i >= 0; --i) {
             const double x = starts[r] - i * 2.7 - 5, y = 1 + r + i * (4.9 - 0.3 * r);
             const std::optional<Palette> mark = form.marked ? form.marked(r, i) : std::nullopt;
@@ -122,7 +122,8 @@ void birdLeg(Plate& plate, Point top, Point foot, const BirdLegForm& f) {
     }
 }
 
-void bill(Plate& plate, const Path& outline, const Path& gape, Point nostril, const BillForm& f) {
+void bill(Plate& plate, const Path& outline, const Path& gape, std::optional<Point> nostril,
+          const BillForm& f) {
     ReliefForm horn;
     horn.palette = f.palette;
     horn.bevel = 5;
@@ -131,7 +132,9 @@ void bill(Plate& plate, const Path& outline, const Path& gape, Point nostril, co
     horn.shade = 0.15;
     relief(plate, closedSpline(outline, 6), horn);
     plate.stroke(spline(gape, 6), {.width = 0.85, .swell = 0.15, .fade = 0.3, .wobble = 0.05});
-    plate.stroke({nostril + Point{-1.3, 0.3}, nostril + Point{1.3, -0.2}}, Pen{.width = 1.0, .wobble = 0});
+    if (nostril)
+        plate.stroke({*nostril + Point{-1.3, 0.3}, *nostril + Point{1.3, -0.2}},
+                     Pen{.width = 1.0, .wobble = 0});
 }
 
 void birdEye(Plate& plate, Point centre, double radius, Colour iris) {

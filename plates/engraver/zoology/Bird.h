@@ -32,8 +32,6 @@ struct WingForm {
     Palette secondaries = palettes::grey;
     Palette primaries = palettes::grey;
     double tone = 0;
-    /// Number of covert rows, 2 to 4.
-    int rows = 4;
     /// Another palette for one feather of a covert row (0 the longest) or of the secondaries (row -1);
     /// absent: as above.
     std::function<std::optional<Palette>(int row, int feather)> marked = {};
@@ -68,12 +66,14 @@ struct BirdLegForm {
 };
 void birdLeg(Plate& plate, Point top, Point foot, const BirdLegForm& form = {});
 
-/// A bill in profile: upper and lower edge as one outline, the line of the gape, and the nostril.
+/// A bill in profile: upper and lower edge as one outline, the line of the gape, and the nostril if it
+/// shows.
 struct BillForm {
     Palette palette = palettes::horn;
     double tone = 0;
 };
-void bill(Plate& plate, const Path& outline, const Path& gape, Point nostril, const BillForm& form = {});
+void bill(Plate& plate, const Path& outline, const Path& gape, std::optional<Point> nostril,
+          const BillForm& form = {});
 
 /// A round eye without lids; `ring` colours the iris.
 void birdEye(Plate& plate, Point centre, double radius, Colour iris);

@@ -41,7 +41,7 @@ static const Subject subject{
                      {.width = 0.45, .swell = 0.5, .fade = 0.5});
         }
         bill(p, {{87, 34}, {80, 36}, {68, 44}, {62, 48}, {63, 52}, {72, 52}, {86, 48}},
-             {{63, 49.5}, {74, 47.6}, {86, 45}}, {75, 41.5}, {.palette = palettes::orange});
+             {{63, 49.5}, {74, 47.6}, {86, 45}}, Point{75, 41.5}, {.palette = palettes::orange});
         birdEye(p, {92, 38}, 2.9, Colour{0x6F95B5});
         ground(p, 92, 212, 236, 4);
     }};

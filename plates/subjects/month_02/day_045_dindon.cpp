@@ -53,10 +53,9 @@ static const Subject subject{
               .secondaries = pale,
               .primaries = bronze,
               .tone = 0.08,
-              .rows = 3,
               .marked = [pale](int row, int) { return row == 0 ? std::optional(pale) : std::nullopt; }});
         bill(p, {{117, 156}, {109, 159}, {102, 166}, {103, 170}, {110, 168}, {118, 168}},
-             {{103, 167}, {110, 164.5}, {118, 164}}, {112, 161}, {.palette = palettes::horn});
+             {{103, 167}, {110, 164.5}, {118, 164}}, Point{112, 161}, {.palette = palettes::horn});
         ReliefForm flesh;
         flesh.palette = palettes::red;
         flesh.bevel = 5;

@@ -60,7 +60,7 @@ static const Subject subject{
             p.stroke(spline({{79, 50.0 - k}, {85, 47.0 - 2 * k}, {90, 45.0 - 2.4 * k}}, 5),
                      {.width = 1.2, .swell = 0, .fade = 0.8});
         bill(p, {{65, 55}, {58, 57}, {51, 64}, {54, 66}, {60, 65}, {66, 65}},
-             {{53, 64}, {60, 61.5}, {67, 61}}, {60, 59}, {.palette = palettes::straw});
+             {{53, 64}, {60, 61.5}, {67, 61}}, Point{60, 59}, {.palette = palettes::straw});
         birdEye(p, {72.5, 59.5}, 2.7, Colour{0xD79A3A});
         ground(p, 76, 250, 220, 4);
         grassTufts(p, 84, 240, 224, 8);

@@ -40,8 +40,7 @@ static const Subject subject{
               .coverts = palettes::brown,
               .secondaries = palettes::brown,
               .primaries = palettes::chestnut,
-              .tone = 0.12,
-              .rows = 3});
+              .tone = 0.12});
         ReliefForm flesh;
         flesh.palette = palettes::scarlet;
         flesh.bevel = 6;
@@ -64,7 +63,7 @@ static const Subject subject{
                flesh);
         relief(p, closedSpline({{85, 86}, {92, 87}, {94, 98}, {89, 107}, {83, 103}, {81, 94}}, 8), flesh);
         bill(p, {{88, 73}, {81, 75}, {73, 82}, {75, 85}, {81, 84}, {88, 85}},
-             {{75, 82.5}, {81, 80}, {89, 80}}, {82, 77}, {.palette = palettes::yellow});
+             {{75, 82.5}, {81, 80}, {89, 80}}, Point{82, 77}, {.palette = palettes::yellow});
         flesh.shade = 0;
         relief(p, ellipse({94, 78}, 6.6, 5.8), flesh);
         relief(p, ellipse({103, 86}, 3.2, 4.2), flesh);

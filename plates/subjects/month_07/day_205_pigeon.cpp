@@ -47,7 +47,7 @@ static const Subject subject{
                      {.width = 5.6, .swell = 0.1, .fade = 0.1, .colour = bar.dark, .alpha = 0.85});
         }
         bill(p, {{70, 64}, {63, 66}, {55, 73}, {58, 75}, {64, 73}, {70, 74}},
-             {{57, 73}, {64, 70.5}, {71, 70.5}}, {63, 68.4}, {.palette = palettes::darkgrey});
+             {{57, 73}, {64, 70.5}, {71, 70.5}}, Point{63, 68.4}, {.palette = palettes::darkgrey});
         const Path cere = closedSpline({{70, 63}, {65, 64.5}, {64, 68}, {70, 68}}, 6);
         p.knockOut(cere, {.halo = 0.1, .shade = 0});
         p.contour(cere, 0.6);

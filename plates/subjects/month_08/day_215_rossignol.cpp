@@ -49,18 +49,17 @@ static const Subject subject{
               .coverts = back,
               .secondaries = back,
               .primaries = rufous,
-              .tone = 0.10,
-              .rows = 3});
+              .tone = 0.10});
         // Open bill, its inside pink.
         const Path mouth =
             closedSpline({{76, 60}, {62, 55}, {58, 58}, {66, 66}, {60, 75}, {64, 76}, {77, 72}}, 5);
         p.knockOut(mouth, {.halo = 0.2, .shade = 0});
         p.flat(mouth, Colour{0xE9A08A});
         bill(p, {{80, 57}, {68, 51}, {55, 49}, {66, 57}, {78, 63}}, {{57, 50}, {66, 56.5}, {78, 62.5}},
-             {70, 54.5}, {.palette = palettes::dun});
+             Point{70, 54.5}, {.palette = palettes::dun});
         bill(p, {{80, 68}, {70, 71}, {58, 78}, {68, 76}, {81, 73}}, {{60, 77.5}, {70, 72}, {80, 69}},
-             {30, 30}, {.palette = palettes::dun});
-        p.highlight(ellipse({30, 30}, 4, 4));
+             std::nullopt, {.palette = palettes::dun});
+
         p.flat(ellipse({90, 64}, 5.6, 5.2), Colour{0xF3E4C4}, 0.9);
         birdEye(p, {90, 64}, 4.2, Colour{0x2E1C12});
         // Twig and the feet that grip it.

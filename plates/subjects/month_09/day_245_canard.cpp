@@ -67,7 +67,7 @@ static const Subject subject{
                                  {228.0 + 5 * k, 127}}),
                          {.width = 3.2, .swell = 0.2, .fade = 0.5, .colour = black.dark});
             bill(p, {{79, 78}, {70, 83}, {56, 91}, {46, 94}, {45, 98}, {52, 101}, {66, 99}, {79, 96}},
-                 {{46, 97}, {58, 95.5}, {68, 94}, {79, 90}}, {70, 87}, {.palette = palettes::yellow});
+                 {{46, 97}, {58, 95.5}, {68, 94}, {79, 90}}, Point{70, 87}, {.palette = palettes::yellow});
             birdEye(p, {88, 77}, 3.0, Colour{0x5A3A1E});
         }
         for (int k = 0; k < 9; ++k) {

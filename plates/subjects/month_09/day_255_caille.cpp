@@ -60,8 +60,7 @@ static const Subject subject{
               .coverts = brown,
               .secondaries = brown,
               .primaries = brown,
-              .tone = 0.14,
-              .rows = 3});
+              .tone = 0.14});
         // Pale shaft streaks with dark borders, the bird's mark.
         for (int k = 0; k < 30; ++k) {
             const Point at{104 + (k % 10) * 9.2 + p.random.around(2),
@@ -78,7 +77,7 @@ static const Subject subject{
         p.stroke(spline({{78, 128}, {88, 130}, {98, 126}}),
                  {.width = 1.8, .swell = 0.3, .fade = 0.3, .alpha = 0.8});
         bill(p, {{70, 97}, {63, 98}, {55, 105}, {58, 107}, {64, 106}, {70, 107}},
-             {{57, 105}, {63, 103}, {71, 102.5}}, {64, 100.5}, {.palette = palettes::dun});
+             {{57, 105}, {63, 103}, {71, 102.5}}, Point{64, 100.5}, {.palette = palettes::dun});
         birdEye(p, {80, 99.5}, 3.1, Colour{0x7A4A22});
         leaf(p, {{196, 236}, {204, 210}, {222, 190}, {246, 184}},
              {.width = 4, .palette = palettes::straw, .parallel = true});

@@ -31,8 +31,8 @@ static const Subject subject{
         rock.palette = palettes::stone;
         rock.height = [broad = Noise(31, 3, 0.5), fine = Noise(8, 3, 0.6)](Point q, double depth) {
             return std::min(3 + depth * 1.25,
-                            17 + 5 * broad((q.x + 0.6 * q.y) / 26, (q.y - 0.3 * q.x) / 15)) +
-                   1.3 * fine(q.x / 7, q.y / 5);
+                            17 + 7 * std::fabs(broad((q.x + 0.7 * q.y) / 34, (q.y - 0.3 * q.x) / 17))) +
+                   0.45 * fine(q.x / 9, q.y / 6);
         };
         rock.creases = true;
         rock.hatchFrom = 0.34;
@@ -79,5 +79,16 @@ static const Subject subject{
         body.fur(p, {.spacing = 2.5, .length = 7, .width = 0.6, .from = 0.35, .spread = 11});
         horn(p, {{85, 51}, {85, 35}, {90, 20}, {100, 16}, {105, 26}}, {3.1, 2.7, 2.3, 1.8, 0.5},
              {.palette = palettes::black, .rings = 7});
+        // The dark band from the ear's root through the eye to the muzzle.
+        const Path band = closedSpline(goat.head.path({{0.06, -0.05},
+                                                       {0.28, -0.12},
+                                                       {0.55, -0.07},
+                                                       {0.84, 0.0},
+                                                       {0.82, 0.06},
+                                                       {0.55, 0.04},
+                                                       {0.28, 0.01},
+                                                       {0.06, 0.04}}),
+                                       8);
+        p.flat(band, coatBrown.dark, 0.78);
         goat.finish(p);
     }};

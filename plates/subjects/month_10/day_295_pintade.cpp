@@ -34,8 +34,7 @@ static const Subject subject{
               .coverts = dark,
               .secondaries = dark,
               .primaries = dark,
-              .tone = 0.3,
-              .rows = 3});
+              .tone = 0.3});
         // Pearls in rows, smaller towards the edge.
         int row = 0;
         for (double y = 104; y < 202; y += 6.2, ++row)
@@ -59,7 +58,7 @@ static const Subject subject{
         horn.palette = palettes::scarlet;
         relief(p, closedSpline({{74, 80}, {80, 81}, {82, 90}, {76, 96}, {71, 90}}, 6), horn);
         bill(p, {{72, 70}, {65, 72}, {57, 79}, {60, 82}, {66, 81}, {73, 81}},
-             {{59, 79.5}, {66, 77}, {74, 77}}, {66, 74}, {.palette = palettes::terracotta});
+             {{59, 79.5}, {66, 77}, {74, 77}}, Point{66, 74}, {.palette = palettes::terracotta});
         birdEye(p, {80, 71.5}, 2.8, Colour{0x6A4626});
         p.stroke(spline({{86, 66}, {88, 74}, {86, 82}, {88, 90}}), {.width = 0.9, .swell = 0.3, .fade = 0.5});
         ground(p, 92, 226, 240);
