@@ -10,7 +10,7 @@ using namespace tambrelle::engraver;
 // subsoil.
 static const Subject subject{
     "day_097_terre_vegetale", [](Plate& p) {
-        ground(p, 80, 324, 302, 5);
+        ground(p, 72, 332, 288, 9);
         const Box sod{.front = {226, 312}, .left = {-146, -30}, .right = {92, -40}, .height = 108};
         const RoughBlock b =
             roughBlock(p, sod,
