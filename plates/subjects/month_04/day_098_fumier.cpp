@@ -16,7 +16,7 @@ static const Subject subject{
                     spline(
                         {{q, 176.0 - k * 4}, {q - 8, 156}, {q + 5, 134}, {q - 5, 112}, {q + 7, 88.0 + k * 8}},
                         12),
-                    {.width = 1.0 - 0.3 * k, .swell = 0.4, .fade = 0.5, .alpha = 0.75});
+                    {.width = 1.5 - 0.6 * k, .swell = 0.4, .fade = 0.5, .alpha = 0.75});
             }
         const ReliefSurface dung = heap(p, {196, 298}, 132, 116, 0.3,
                                         {.palette = {0xC9A06A, 0x86592E, 0x40270F},
@@ -25,7 +25,7 @@ static const Subject subject{
                                          .grain = 20,
                                          .depth = 48,
                                          .ragged = 3});
-        straws(p, dung, 190, 34);
+        straws(p, dung, 330, 32);
         // The fork, its tines half sunk.
         tube(p, {{256, 178}, {282, 116}, {306, 54}}, {4.4, 4.2, 4},
              {.palette = palettes::wood, .lines = Lines::along});

@@ -1,5 +1,6 @@
 #include "plates/engraver/Ground.h"
 #include "plates/engraver/Lathe.h"
+#include "plates/engraver/Noise.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/minerals/Stone.h"
 #include "plates/engraver/minerals/Vessel.h"
@@ -21,26 +22,43 @@ static const Subject subject{
         mouth(p, pot, {.palette = clay, .wall = 4.5});
         ReliefForm r;
         r.palette = clay;
-        r.creases = false;
-        const Path lump = closedSpline({{66, 286},
-                                        {72, 250},
-                                        {92, 226},
-                                        {124, 214},
-                                        {156, 220},
-                                        {182, 242},
-                                        {194, 276},
-                                        {186, 304},
-                                        {140, 314},
-                                        {88, 310}},
+        r.highlight = 0.04;
+        r.tone = 0.06;
+        const Path lump = closedSpline({{58, 290},
+                                        {62, 262},
+                                        {80, 240},
+                                        {92, 214},
+                                        {118, 198},
+                                        {140, 206},
+                                        {162, 212},
+                                        {176, 236},
+                                        {192, 256},
+                                        {200, 290},
+                                        {182, 306},
+                                        {150, 304},
+                                        {122, 314},
+                                        {86, 306}},
                                        12);
-        r.height = [](Point at, double depth) {
-            double z = 46 * std::sqrt(std::max(0.0, 1 - maths::pow(1 - std::min(depth / 46, 1.0), 2)));
-            // Four fingers drawn through the wet clay: furrows with raised lips.
-            for (int k = 0; k < 4; ++k) {
-                const Point a{96.0 + 20 * k, 238.0 - 3.0 * (k == 1 || k == 2)}, b{90.0 + 23 * k, 290};
-                const double t = maths::clamp01(dot(at - a, b - a) / dot(b - a, b - a));
-                const double away = length(at - lerp(a, b, t)) / 7.0;
-                z += -8.5 * maths::exp(-away * away) + 2.4 * maths::exp(-(away - 1.6) * (away - 1.6) * 3);
+        const Noise slump(12, 3, 0.5);
+        // Where the fingers of a hand went in, and how they were drawn down.
+        const Path fingers[] = {
+            spline({{98, 244}, {90, 258}, {88, 276}}, 8), spline({{118, 230}, {111, 252}, {112, 284}}, 8),
+            spline({{140, 230}, {136, 254}, {139, 286}}, 8), spline({{160, 244}, {159, 262}, {163, 280}}, 8)};
+        r.height = [&](Point at, double depth) {
+            double z = 44 * std::sqrt(std::max(0.0, 1 - maths::pow(1 - std::min(depth / 44, 1.0), 2))) +
+                       2.6 * slump(at.x / 26, at.y / 26);
+            for (const Path& finger : fingers) {
+                double away = 1e9;
+                std::size_t nearest = 0;
+                for (std::size_t k = 0; k < finger.size(); ++k)
+                    if (length(at - finger[k]) < away) {
+                        away = length(at - finger[k]);
+                        nearest = k;
+                    }
+                away /= 6.2;
+                // Deepest where the finger first pressed.
+                z -= (9.5 - 6.5 * fraction(nearest, finger.size())) * maths::exp(-away * away);
+                z += 1.6 * maths::exp(-(away - 1.7) * (away - 1.7) * 4);
             }
             return z;
         };

@@ -1,5 +1,6 @@
 #include "plates/engraver/Ground.h"
 #include "plates/engraver/Subject.h"
+#include "plates/engraver/Tube.h"
 #include "plates/engraver/minerals/Stone.h"
 
 using namespace tambrelle::engraver;
@@ -8,100 +9,96 @@ using namespace tambrelle::engraver;
 // about the blow. Struck with steel it gives sparks.
 static const Subject subject{
     "day_106_silex", [](Plate& p) {
-        ground(p, 70, 332, 292, 6);
-        const ReliefSurface nodule = stone(p,
-                                           closedSpline({{72, 252},
-                                                         {84, 198},
-                                                         {116, 172},
-                                                         {150, 178},
-                                                         {186, 152},
-                                                         {236, 156},
-                                                         {262, 186},
-                                                         {298, 196},
-                                                         {316, 236},
-                                                         {306, 284},
-                                                         {258, 304},
-                                                         {196, 298},
-                                                         {140, 308},
-                                                         {92, 294}},
-                                                        10),
-                                           {.palette = palettes::chalk,
-                                            .seed = 31,
-                                            .facets = 0,
-                                            .rough = 2.4,
-                                            .grain = 30,
-                                            .depth = 52,
-                                            .ragged = 2.0,
-                                            .tone = -0.04});
-        strew(p, nodule, 120, {{1, sepia, 0.8}}, 0.4, 0.9);
-        // The broken face: shells about the point of the blow, at its upper left.
-        const Palette core{0xB9B0A6, 0x5C534C, 0x241F1D};
-        const Path face = closedSpline({{126, 236},
-                                        {142, 200},
-                                        {184, 178},
-                                        {232, 182},
-                                        {268, 206},
-                                        {286, 240},
-                                        {270, 276},
-                                        {222, 288},
-                                        {164, 284},
-                                        {134, 266}},
+        ground(p, 66, 326, 296, 6);
+        const ReliefSurface nodule = stone(
+            p,
+            closedSpline({{64, 264},  {76, 234},  {66, 208},  {88, 184},  {120, 188}, {138, 162}, {172, 160},
+                          {196, 176}, {232, 164}, {260, 184}, {262, 208}, {296, 214}, {316, 240}, {298, 264},
+                          {306, 290}, {276, 310}, {236, 300}, {196, 312}, {150, 304}, {112, 314}, {78, 298}},
+                         10),
+            {.palette = palettes::chalk,
+             .seed = 31,
+             .facets = 0,
+             .rough = 3.2,
+             .grain = 30,
+             .depth = 52,
+             .ragged = 2.4,
+             .tone = -0.04});
+        strew(p, nodule, 150, {{1, sepia, 0.8}}, 0.4, 0.9);
+        // The broken face: shells about the point of the blow at its upper edge.
+        const Path rind = closedSpline({{104, 236},
+                                        {130, 204},
+                                        {176, 190},
+                                        {228, 192},
+                                        {266, 222},
+                                        {280, 254},
+                                        {262, 286},
+                                        {216, 290},
+                                        {160, 296},
+                                        {118, 278}},
                                        12);
-        p.knockOut(closedSpline({{120, 238},
-                                 {138, 196},
-                                 {182, 172},
-                                 {234, 176},
-                                 {274, 202},
-                                 {292, 240},
-                                 {274, 280},
-                                 {222, 293},
-                                 {162, 289},
-                                 {129, 268}},
-                                12),
-                   {.halo = 0, .shade = 0});
-        p.flat(closedSpline({{120, 238},
-                             {138, 196},
-                             {182, 172},
-                             {234, 176},
-                             {274, 202},
-                             {292, 240},
-                             {274, 280},
-                             {222, 293},
-                             {162, 289},
-                             {129, 268}},
-                            12),
-               Colour{0xFBF7EA});
-        p.contour(closedSpline({{120, 238},
-                                {138, 196},
-                                {182, 172},
-                                {234, 176},
-                                {274, 202},
-                                {292, 240},
-                                {274, 280},
-                                {222, 293},
-                                {162, 289},
-                                {129, 268}},
-                               12),
-                  0.7);
-        const Point blow{158, 206};
+        const Path core = closedSpline({{112, 238},
+                                        {136, 211},
+                                        {178, 198},
+                                        {226, 199},
+                                        {258, 226},
+                                        {271, 253},
+                                        {255, 279},
+                                        {214, 282},
+                                        {162, 288},
+                                        {126, 272}},
+                                       12);
+        p.knockOut(rind, {.halo = 0, .shade = 0});
+        p.flat(rind, Colour{0xFBF7EA});
+        p.contour(rind, 0.7);
+        const Point blow{150, 196};
         ReliefForm r;
-        r.palette = core;
-        r.tone = 0.2;
+        r.palette = {0xA79C92, 0x554A43, 0x201A18};
+        r.tone = 0.22;
         r.shade = 0;
         r.soften = 0.8;
         r.hatchFrom = 0.2;
         r.occlusion = false;
         r.lines = {0.62, 0.62, 0.3};
+        r.crossFrom = 0.8;
         r.height = [&](Point at, double depth) {
-            const double d = length(at - blow);
-            const double ring = d / 15.0 + 0.12 * maths::sin(angleOf(at - blow) * 0.12);
+            const Point q = at - blow;
+            const double d = maths::length(q.x * 0.92, q.y * 1.12);
+            const double ring = maths::pow(d / 15.0, 0.93);
             const double saw = ring - std::floor(ring);
-            return 1.5 * std::min(depth, 2.0) - 0.0012 * (d - 60) * (d - 60) +
-                   3.2 * saw * saw * (1 - maths::smooth(0.9, 1, saw));
+            return 1.5 * std::min(depth, 2.0) - 0.0010 * (d - 60) * (d - 60) +
+                   5.0 * saw * saw * (1 - maths::smooth(0.88, 1, saw));
         };
-        relief(p, face, r);
-        const Plate::Clip clip(p, face);
-        for (int k = 1; k < 9; ++k) // glints on the crests
-            p.stroke(arc(blow, 15.0 * k - 3.5, 15.0 * k - 3.5, 5 + 3 * k, 70 - k, 30),
-                     {.width = 1.1, .swell = 0.4, .fade = 0.4, .colour = Colour{0xEDE7DE}, .alpha = 0.9});
+        relief(p, core, r);
+        {
+            const Plate::Clip clip(p, core);
+            for (int k = 2; k < 9; ++k) { // glints on the crests
+                const double d = 15.0 * maths::pow(k - 0.2, 1 / 0.93);
+                p.stroke(
+                    arc(blow, d / 0.92, d / 1.12, 18 + 2 * k, 84 - 3 * k, 30),
+                    {.width = 1.5, .swell = 0.4, .fade = 0.4, .colour = Colour{0xF2EDE6}, .alpha = 0.95});
+            }
+        }
+        // The steel, and the sparks that fly from the edge.
+        for (int k = 0; k < 15; ++k) {
+            const double way = -172 + 11.5 * k + p.random.around(4), from = p.random.uniform(6, 12);
+            const Point root{226, 148};
+            if (way > -62 && way < -14)
+                continue;
+            const double to = from + p.random.uniform(14, 30);
+            p.stroke({polar(root, way, from), polar(root, way, to)},
+                     {.width = 2.0, .swell = 0.2, .fade = 0.6, .colour = Colour{0xE0741E}});
+            p.dot(polar(root, way, to + 5), 1.3, Colour{0xC2501A});
+        }
+        tube(p,
+             {{252, 76},
+              {236, 84},
+              {226, 104},
+              {234, 128},
+              {262, 142},
+              {296, 128},
+              {308, 102},
+              {300, 80},
+              {284, 74}},
+             {2.6, 3.4, 5.5, 7.5, 8.5, 7.5, 5.5, 3.4, 2.6}, {.palette = palettes::steel});
     }};

@@ -1,6 +1,5 @@
 #include "plates/engraver/Ground.h"
 #include "plates/engraver/Lathe.h"
-#include "plates/engraver/Noise.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/minerals/Block.h"
 
@@ -9,17 +8,22 @@ using namespace tambrelle::engraver;
 namespace {
 
 // Forked veins that wander from `from` to `to` within an outline.
-void vein(Plate& p, Point from, Point to, double width, std::uint64_t seed) {
-    const Path line = brokenEdge(from, to, 11, seed);
+void vein(Plate& p, Point from, Point to, double width) {
+    const Point side = rightOf(unit(to - from));
+    Path bends{from};
+    for (int k = 1; k < 7; ++k)
+        bends.push_back(lerp(from, to, k / 7.0) + side * p.random.around(length(to - from) * 0.085));
+    bends.push_back(to);
+    const Path line = spline(bends, 8);
     p.stroke(line,
-             {.width = width * 2.6, .swell = 0.1, .fade = 0.2, .colour = Colour{0xA9B0B8}, .alpha = 0.45});
-    p.stroke(line, {.width = width, .swell = 0.1, .fade = 0.3, .colour = Colour{0x5E656E}});
+             {.width = width * 3.4, .swell = 0.1, .fade = 0.2, .colour = Colour{0xA9B0B8}, .alpha = 0.5});
+    p.stroke(line, {.width = width, .swell = 0.1, .fade = 0.3, .wobble = 0.4, .colour = Colour{0x5E656E}});
     for (const double t : {0.3, 0.55, 0.8}) {
         const Point root = along(line, t);
-        const double way = angleAlong(line, t) + (t < 0.5 ? 38 : -42);
-        p.stroke(brokenEdge(root, polar(root, way, length(to - from) * 0.22), 6,
-                            seed + static_cast<std::uint64_t>(t * 90)),
-                 {.width = width * 0.6, .swell = 0, .fade = 0.8, .colour = Colour{0x6E757D}});
+        const double way = angleAlong(line, t) + (t < 0.5 ? 38 : -42), span = length(to - from) * 0.26;
+        const Point bend = polar(root, way, span * 0.5);
+        p.stroke(spline({root, bend, polar(bend, way + p.random.around(40), span * 0.5)}, 8),
+                 {.width = width * 0.7, .swell = 0, .fade = 0.8, .wobble = 0.3, .colour = Colour{0x6E757D}});
     }
 }
 
@@ -35,9 +39,8 @@ static const Subject subject{
         const auto veins = [&](const Path& outline, const std::vector<std::pair<Point, Point>>& lines,
                                double width) {
             const Plate::Clip clip(p, outline);
-            std::uint64_t seed = 200;
             for (const auto& [a, b] : lines)
-                vein(p, a, b, width, seed += 7);
+                vein(p, a, b, width);
         };
         veins(plinth.leftFace(), {{{76, 246}, {130, 300}}, {{130, 244}, {200, 312}}}, 0.9);
         veins(plinth.rightFace(), {{{216, 300}, {276, 262}}, {{262, 304}, {330, 246}}}, 0.9);
