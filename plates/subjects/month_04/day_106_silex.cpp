@@ -10,48 +10,61 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_106_silex", [](Plate& p) {
         ground(p, 66, 326, 296, 6);
-        const ReliefSurface nodule = stone(
-            p,
-            closedSpline({{64, 264},  {76, 234},  {66, 208},  {88, 184},  {120, 188}, {138, 162}, {172, 160},
-                          {196, 176}, {232, 164}, {260, 184}, {262, 208}, {296, 214}, {316, 240}, {298, 264},
-                          {306, 290}, {276, 310}, {236, 300}, {196, 312}, {150, 304}, {112, 314}, {78, 298}},
-                         10),
-            {.palette = palettes::chalk,
-             .seed = 31,
-             .facets = 0,
-             .rough = 3.2,
-             .grain = 30,
-             .depth = 52,
-             .ragged = 2.4,
-             .tone = -0.04});
+        const ReliefSurface nodule = stone(p,
+                                           closedSpline({{66, 262},
+                                                         {76, 222},
+                                                         {92, 190},
+                                                         {124, 180},
+                                                         {150, 162},
+                                                         {196, 164},
+                                                         {226, 154},
+                                                         {262, 172},
+                                                         {280, 200},
+                                                         {308, 222},
+                                                         {312, 258},
+                                                         {298, 294},
+                                                         {258, 304},
+                                                         {226, 312},
+                                                         {170, 306},
+                                                         {120, 314},
+                                                         {82, 296}},
+                                                        10),
+                                           {.palette = palettes::chalk,
+                                            .seed = 31,
+                                            .facets = 0,
+                                            .rough = 3.2,
+                                            .grain = 30,
+                                            .depth = 52,
+                                            .ragged = 2.4,
+                                            .tone = -0.04});
         strew(p, nodule, 150, {{1, sepia, 0.8}}, 0.4, 0.9);
         // The broken face: shells about the point of the blow at its upper edge.
-        const Path rind = closedSpline({{104, 236},
-                                        {130, 204},
-                                        {176, 190},
-                                        {228, 192},
-                                        {266, 222},
-                                        {280, 254},
-                                        {262, 286},
-                                        {216, 290},
-                                        {160, 296},
-                                        {118, 278}},
+        const Path rind = closedSpline({{92, 246},
+                                        {108, 204},
+                                        {152, 182},
+                                        {216, 180},
+                                        {264, 204},
+                                        {288, 244},
+                                        {274, 284},
+                                        {222, 294},
+                                        {156, 298},
+                                        {108, 282}},
                                        12);
-        const Path core = closedSpline({{112, 238},
-                                        {136, 211},
-                                        {178, 198},
-                                        {226, 199},
-                                        {258, 226},
-                                        {271, 253},
-                                        {255, 279},
-                                        {214, 282},
-                                        {162, 288},
-                                        {126, 272}},
+        const Path core = closedSpline({{101, 246},
+                                        {116, 210},
+                                        {156, 190},
+                                        {214, 188},
+                                        {257, 210},
+                                        {278, 244},
+                                        {266, 277},
+                                        {219, 286},
+                                        {158, 290},
+                                        {115, 275}},
                                        12);
         p.knockOut(rind, {.halo = 0, .shade = 0});
         p.flat(rind, Colour{0xFBF7EA});
         p.contour(rind, 0.7);
-        const Point blow{150, 196};
+        const Point blow{132, 192};
         ReliefForm r;
         r.palette = {0xA79C92, 0x554A43, 0x201A18};
         r.tone = 0.22;
@@ -72,7 +85,7 @@ static const Subject subject{
         relief(p, core, r);
         {
             const Plate::Clip clip(p, core);
-            for (int k = 2; k < 9; ++k) { // glints on the crests
+            for (int k = 2; k < 11; ++k) { // glints on the crests
                 const double d = 15.0 * maths::pow(k - 0.2, 1 / 0.93);
                 p.stroke(
                     arc(blow, d / 0.92, d / 1.12, 18 + 2 * k, 84 - 3 * k, 30),
@@ -82,8 +95,8 @@ static const Subject subject{
         // The steel, and the sparks that fly from the edge.
         for (int k = 0; k < 15; ++k) {
             const double way = -172 + 11.5 * k + p.random.around(4), from = p.random.uniform(6, 12);
-            const Point root{226, 148};
-            if (way > -62 && way < -14)
+            const Point root{212, 152};
+            if (way > -66 && way < -6)
                 continue;
             const double to = from + p.random.uniform(14, 30);
             p.stroke({polar(root, way, from), polar(root, way, to)},
@@ -91,14 +104,17 @@ static const Subject subject{
             p.dot(polar(root, way, to + 5), 1.3, Colour{0xC2501A});
         }
         tube(p,
-             {{252, 76},
-              {236, 84},
-              {226, 104},
-              {234, 128},
-              {262, 142},
-              {296, 128},
-              {308, 102},
-              {300, 80},
-              {284, 74}},
-             {2.6, 3.4, 5.5, 7.5, 8.5, 7.5, 5.5, 3.4, 2.6}, {.palette = palettes::steel});
+             {{238, 118},
+              {228, 104},
+              {213, 108},
+              {205, 122},
+              {211, 139},
+              {234, 138},
+              {262, 124},
+              {292, 108},
+              {311, 92},
+              {308, 73},
+              {290, 70},
+              {281, 84}},
+             {2, 2.6, 3.2, 4.2, 6, 7, 7.2, 6.4, 4.4, 3.2, 2.6, 2}, {.palette = palettes::steel});
     }};

@@ -22,23 +22,30 @@ static const Subject subject{
                 corners.push_back({side * x, y, 0});
                 for (const double face : {-1.0, 1.0})
                     corners.push_back(
-                        {side * std::max(0.0, x - inset), y + (y < 0 ? inset : -inset) * 0.8, face * 0.2});
+                        {side * (x > 0 ? x - inset : 0.0), y + (y < 0 ? inset : -inset) * 0.8, face * 0.2});
             };
-            rim(0, 1.30, 0.10);
-            rim(0, -0.62, 0.16);
-            rim(0.78, -1.62, 0.20);
-            rim(0.86, -0.1, 0.2);
-            return crystal(p, corners, {134, 176},
+            rim(0, 1.35, 0.10);
+            rim(0, -0.70, 0.12);
+            rim(0.64, -1.36, 0.16);
+            rim(0.80, -0.95, 0.16);
+            rim(0.64, 0.25, 0.16);
+            return crystal(p, corners, {134, 182},
                            {.palette = gypsum,
-                            .scale = 78,
-                            .turn = {8, -16, 5},
-                            .tone = side < 0 ? -0.10 : 0.06,
+                            .scale = 88,
+                            .turn = {7, 0, 4},
+                            .tone = side < 0 ? -0.06 : 0.14,
                             .contrast = 1.2,
                             .spacing = 2.4,
                             .clear = 0.3});
         };
         half(1);
         half(-1);
+        for (const double side : {-1.0, 1.0}) // cleavage along the tablets
+            for (int k = 0; k < 5; ++k) {
+                const double x = 134 + side * (9 + 9 * k), y = 134 - 6.5 * k;
+                p.stroke({{x, y}, {x - 3, y + 44 + p.random.around(14)}},
+                         {.width = 0.5, .swell = 0.2, .fade = 0.7, .alpha = 0.8});
+            }
         stone(
             p, {{92, 300}, {104, 278}, {140, 272}, {172, 282}, {180, 304}, {136, 314}},
             {.palette = palettes::stone, .seed = 9, .rough = 1.2, .depth = 14, .ragged = 1.6, .tone = 0.08});

@@ -10,11 +10,11 @@ namespace {
 
 // A cube of salt; `steps` hollow steps sink into the face towards the viewer's left, as hopper crystals grow.
 void cube(Plate& p, Point centre, double scale, Vector3 turn, int steps) {
-    const CrystalForm form{.palette = {0xFFFFFF, 0xE3EAEE, 0x8797A3},
+    const CrystalForm form{.palette = {0xFFFFFF, 0xCBD8E1, 0x70879A},
                            .scale = scale,
                            .turn = turn,
-                           .tone = -0.06,
-                           .contrast = 1.25,
+                           .tone = -0.14,
+                           .contrast = 0.85,
                            .spacing = 2.2,
                            .clear = 0.22};
     crystal(p, crystals::cuboid(1, 1, 1), centre, form);
@@ -26,9 +26,9 @@ void cube(Plate& p, Point centre, double scale, Vector3 turn, int steps) {
         const Plate::Clip clip(p, outer);
         // The walls of the step: those to the upper left lie in shade.
         face(p, {outer[0], outer[1], floor[1], floor[0]},
-             {.tone = 0.62, .palette = form.palette, .spacing = 1.7, .contour = 0.45, .halo = 0});
+             {.tone = 0.5, .palette = form.palette, .spacing = 1.7, .contour = 0.45, .halo = 0});
         face(p, {outer[0], floor[0], floor[3], outer[3]},
-             {.tone = 0.72, .palette = form.palette, .spacing = 1.7, .contour = 0.45, .halo = 0});
+             {.tone = 0.6, .palette = form.palette, .spacing = 1.7, .contour = 0.45, .halo = 0});
         face(p, {outer[1], outer[2], floor[2], floor[1]},
              {.tone = 0.12, .palette = form.palette, .contour = 0.45, .halo = 0});
         face(p, {outer[3], floor[3], floor[2], outer[2]},
@@ -42,7 +42,7 @@ void cube(Plate& p, Point centre, double scale, Vector3 turn, int steps) {
 // Salt: clear cubes, their faces sunk in steps, and a heap of the white grains.
 static const Subject subject{"day_112_sel", [](Plate& p) {
                                  ground(p, 66, 336, 298, 6);
-                                 const ReliefSurface grains = heap(p, {250, 300}, 92, 92, 0.75,
+                                 const ReliefSurface grains = heap(p, {246, 300}, 94, 104, 0.7,
                                                                    {.palette = {0xFFFFFF, 0xE6EAEC, 0x98A4AC},
                                                                     .seed = 4,
                                                                     .rough = 0.9,
@@ -64,10 +64,10 @@ static const Subject subject{"day_112_sel", [](Plate& p) {
                                      p.flat(grain, white, 0.9);
                                      p.contour(grain, 0.4);
                                  }
-                                 cube(p, {146, 168}, 54, {-24, 30, 6}, 4);
-                                 cube(p, {108, 256}, 34, {-26, 24, -10}, 3);
-                                 cube(p, {184, 262}, 36, {-24, 38, 4}, 3);
-                                 cube(p, {146, 296}, 15, {-24, 30, 20}, 1);
-                                 cube(p, {222, 304}, 10, {-24, 50, -10}, 0);
-                                 cube(p, {74, 300}, 9, {-24, 20, -20}, 0);
+                                 cube(p, {150, 172}, 50, {-20, 26, 5}, 4);
+                                 cube(p, {106, 262}, 34, {-22, 22, -8}, 3);
+                                 cube(p, {180, 270}, 34, {-20, 34, 3}, 3);
+                                 cube(p, {142, 304}, 13, {-24, 30, 20}, 1);
+                                 cube(p, {222, 308}, 10, {-24, 50, -10}, 0);
+                                 cube(p, {74, 304}, 9, {-24, 20, -20}, 0);
                              }};

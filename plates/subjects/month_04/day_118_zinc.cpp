@@ -15,7 +15,7 @@ void spangle(Plate& p, const Path& outline, int count, double size) {
     for (int k = 0; k < count; ++k) {
         const double x = p.random.uniform(b.left, b.right);
         const Point at{x, p.random.uniform(b.top, b.bottom)};
-        const double way = p.random.uniform(0, 180), tone = p.random.uniform(0.02, 0.5);
+        const double way = p.random.uniform(0, 180), tone = p.random.uniform(0.08, 0.42);
         Path patch;
         for (int i = 0; i < 6; ++i)
             patch.push_back(polar(at, 60.0 * i + p.random.around(20), size * p.random.uniform(0.6, 1.3)));
@@ -25,7 +25,7 @@ void spangle(Plate& p, const Path& outline, int count, double size) {
               .lines = way,
               .spacing = 2.4,
               .coverage = 0.4,
-              .contour = 0.4,
+              .contour = 0.2,
               .halo = 0,
               .wobble = 0.05});
     }
@@ -44,7 +44,7 @@ static const Subject subject{
             joined(Path{{330, 252}, {190, 312}},
                    spline({{190, 312}, {164, 280}, {136, 244}, {110, 206}}, 6)));
         face(p, sheet, {.tone = 0.2, .palette = zinc, .shade = 0.35});
-        spangle(p, sheet, 300, 13);
+        spangle(p, sheet, 240, 20);
         p.contour(sheet, 0.9);
         const Path edge = band({{190, 312}, {330, 252}}, {{330, 255.5}, {190, 315.5}});
         p.ink(edge);
@@ -52,12 +52,6 @@ static const Subject subject{
         const LatheSurface roll =
             lathe(p, {268, 132}, 172, 38,
                   {.direction = 161.5, .tilt = 0.42, .palette = zinc, .lines = Lines::along, .shade = 0.45});
-        Path seen;
-        for (const double u : {0.0, 1.0}) {
-            const Path ring = u < 0.5 ? roll.ring(0, -110, 90, -0.8) : roll.ring(1, 90, -110, -0.8);
-            seen = joined(seen, ring);
-        }
-        spangle(p, roll.outline, 0, 12);
         const Path end = roll.ring(1);
         p.knockOut(end, {.halo = 0, .shade = 0});
         p.flat(end, zinc, 0.75);

@@ -25,7 +25,8 @@ static const Subject subject{
                                    {212, 164},
                                    {180, 184}},
                                   12);
-        relief(p, flask, {.palette = palettes::glass, .bevel = 34, .crossFrom = 1, .coverage = 0.3, .hatchFrom = 0.5});
+        relief(p, flask,
+               {.palette = palettes::glass, .bevel = 34, .crossFrom = 1, .coverage = 0.3, .hatchFrom = 0.5});
         const Path filling = closedSpline({{170, 166},
                                            {198, 148},
                                            {222, 136},
