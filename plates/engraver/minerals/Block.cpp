@@ -66,7 +66,7 @@ RoughBlock roughBlock(Plate& plate, const Box& box, const RoughBlockForm& form) 
     const Path rightTop = edge(0, 0, 1, 0, 1, 1, 7);
     const Path farLeft = edge(1, 0, 1, 1, 1, 1, 8), farRight = edge(0, 1, 1, 1, 1, 1, 9);
 
-    const Noise noise(form.seed, 5, 0.6), waves(form.seed + 5, 2, 0.5);
+    const Noise noise(form.seed, 4, 0.6), waves(form.seed + 5, 2, 0.5);
     ReliefForm r;
     r.soften = 1.2;
     r.spacing = form.spacing;

@@ -94,9 +94,9 @@ static const Subject subject{
         }
         // The steel, and the sparks that fly from the edge.
         for (int k = 0; k < 15; ++k) {
-            const double way = -172 + 11.5 * k + p.random.around(4), from = p.random.uniform(6, 12);
-            const Point root{212, 152};
-            if (way > -66 && way < -6)
+            const double way = -178 + 6.5 * k + p.random.around(4), from = p.random.uniform(6, 12);
+            const Point root{184, 158};
+            if (way > -84)
                 continue;
             const double to = from + p.random.uniform(14, 30);
             p.stroke({polar(root, way, from), polar(root, way, to)},
@@ -104,17 +104,17 @@ static const Subject subject{
             p.dot(polar(root, way, to + 5), 1.3, Colour{0xC2501A});
         }
         tube(p,
-             {{238, 118},
-              {228, 104},
-              {213, 108},
-              {205, 122},
-              {211, 139},
-              {234, 138},
-              {262, 124},
-              {292, 108},
-              {311, 92},
-              {308, 73},
-              {290, 70},
-              {281, 84}},
-             {2, 2.6, 3.2, 4.2, 6, 7, 7.2, 6.4, 4.4, 3.2, 2.6, 2}, {.palette = palettes::steel});
+             {{206, 138},
+              {199, 127},
+              {185, 130},
+              {182, 146},
+              {196, 158},
+              {222, 154},
+              {252, 143},
+              {284, 131},
+              {302, 117},
+              {299, 100},
+              {284, 97},
+              {277, 109}},
+             {2, 2.6, 3.2, 4.4, 6.4, 7.4, 7.4, 6.4, 4.4, 3.2, 2.6, 2}, {.palette = palettes::steel});
     }};

@@ -10,6 +10,7 @@ using namespace tambrelle::engraver;
 // beads.
 static const Subject subject{
     "day_119_mercure", [](Plate& p) {
+        const Palette quicksilver{0xFBFCFD, 0xA3AFBA, 0x2E363E};
         ground(p, 70, 330, 284, 8);
         // The flask: a belly at the upper right, its neck down to the left.
         const Path flask = spline({{166, 158},
@@ -39,7 +40,7 @@ static const Subject subject{
                                            {210, 160},
                                            {180, 179}},
                                           10);
-        liquid(p, filling, 24);
+        liquid(p, filling, 24, quicksilver);
         Path lip = ellipse({0, 0}, 16.5, 5.5);
         for (Point& q : lip)
             q = rotate(q, 62) + Point{173, 171};
@@ -58,7 +59,7 @@ static const Subject subject{
                              {150, 304},
                              {100, 298}},
                             12),
-               24);
+               24, quicksilver);
         liquid(p,
                closedSpline({{170, 162},
                              {181, 170},
@@ -75,7 +76,7 @@ static const Subject subject{
                              {150, 204},
                              {154, 180}},
                             10),
-               9);
+               9, quicksilver);
         p.highlight(ellipse({112, 268}, 13, 3.4));
         p.highlight(closedSpline({{118, 292}, {150, 297}, {184, 291}, {150, 293}}, 8));
         p.highlight(band(spline({{231, 92}, {242, 80}, {258, 76}}),
@@ -85,5 +86,5 @@ static const Subject subject{
               std::tuple{Point{304, 302}, 13.0, 8.5}, std::tuple{Point{84, 308}, 12.0, 8.0},
               std::tuple{Point{274, 312}, 8.0, 5.5}, std::tuple{Point{116, 316}, 8.0, 5.5},
               std::tuple{Point{312, 278}, 8.0, 5.5}, std::tuple{Point{196, 314}, 7.0, 5.0}})
-            bead(p, c, rx, ry);
+            bead(p, c, rx, ry, quicksilver);
     }};
