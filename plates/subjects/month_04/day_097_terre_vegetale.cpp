@@ -19,7 +19,9 @@ static const Subject subject{
                         .rough = 1.9,
                         .grain = 11,
                         .ragged = 2,
-                        .wavy = 5});
+                        .wavy = 5,
+                        .leftTone = 0.04,
+                        .rightTone = 0.32});
         for (const ReliefSurface* face : {&b.left, &b.right})
             strew(p, *face, 90, {{0.5, Colour{0xE6D6B8}, 0.8}, {0.3, sepia, 1}, {0.2, Colour{0xA58A6A}, 0.9}},
                   0.8, 2.6);

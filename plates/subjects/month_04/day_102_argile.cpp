@@ -22,8 +22,8 @@ static const Subject subject{
         mouth(p, pot, {.palette = clay, .wall = 4.5});
         ReliefForm r;
         r.palette = clay;
-        r.highlight = 0.04;
-        r.tone = 0.06;
+        r.highlight = 0.02;
+        r.tone = 0.15;
         const Path lump = closedSpline({{58, 290},
                                         {62, 262},
                                         {80, 240},
