@@ -53,6 +53,11 @@ const Bed& bedAt(const std::vector<Bed>& beds, double level) {
     return beds.back();
 }
 
+// Height of a face near its edge: rounded within `breadth` units or so, level further in.
+double rim(double depth, double breadth) {
+    return depth > 4 * breadth ? breadth : breadth * maths::tanh(depth / breadth);
+}
+
 } // namespace
 
 RoughBlock roughBlock(Plate& plate, const Box& box, const RoughBlockForm& form) {
@@ -66,7 +71,7 @@ RoughBlock roughBlock(Plate& plate, const Box& box, const RoughBlockForm& form) 
     const Path rightTop = edge(0, 0, 1, 0, 1, 1, 7);
     const Path farLeft = edge(1, 0, 1, 1, 1, 1, 8), farRight = edge(0, 1, 1, 1, 1, 1, 9);
 
-    const Noise noise(form.seed, 5, 0.6), waves(form.seed + 5, 2, 0.5);
+    const Noise noise(form.seed, 4, 0.6), waves(form.seed + 5, 2, 0.5);
     ReliefForm r;
     r.soften = 1.2;
     r.spacing = form.spacing;
@@ -74,11 +79,14 @@ RoughBlock roughBlock(Plate& plate, const Box& box, const RoughBlockForm& form) 
     r.crossFrom = form.crossFrom;
     r.halo = 0.3;
     r.contour = 0.85;
+    r.occlusion = false; // the grain is too shallow for hollows to show
     const auto grain = [&](Point p) {
         return form.rough * noise(p.x / (form.grain * form.flat), p.y / form.grain);
     };
     const auto level = [&](Point p, Point along) {
-        return levelOn(p, box.front, along, box.height) + form.wavy / box.height * waves(p.x / 26, p.y / 200);
+        const double straight = levelOn(p, box.front, along, box.height);
+        return form.beds.size() < 2 ? straight
+                                    : straight + form.wavy / box.height * waves(p.x / 26, p.y / 200);
     };
     const auto draw = [&](const Path& outline, Point along, double tone) {
         r.tone = tone;
@@ -88,9 +96,10 @@ RoughBlock roughBlock(Plate& plate, const Box& box, const RoughBlockForm& form) 
             double seam = 0; // a joint between two beds is a shallow furrow
             for (std::size_t k = 0; k + 1 < form.beds.size(); ++k) {
                 const double away = (at - form.beds[k].to) * box.height;
-                seam += 1.6 * maths::exp(-away * away / 1.6);
+                if (std::fabs(away) < 4)
+                    seam += 1.6 * maths::exp(-away * away / 1.6);
             }
-            return 6 * maths::tanh(depth / 6) + grain(p) + bed.proud - seam;
+            return rim(depth, 6) + grain(p) + bed.proud - seam;
         };
         r.tint = [&, along](Point p, double, double t, Colour) {
             return ramp(bedAt(form.beds, level(p, along)).palette, t * 0.82);
@@ -105,7 +114,7 @@ RoughBlock roughBlock(Plate& plate, const Box& box, const RoughBlockForm& form) 
                       box.right, form.rightTone);
     r.shade = 0;
     r.tone = form.topTone;
-    r.height = [&](Point p, double depth) { return 4 * maths::tanh(depth / 4) + 0.7 * grain(p); };
+    r.height = [&](Point p, double depth) { return rim(depth, 4) + 0.7 * grain(p); };
     r.tint = {};
     r.palette = form.beds.back().palette;
     made.top = relief(plate, joined(joined(leftTop, rightTop), joined(farRight, reversed(farLeft))), r);

@@ -135,16 +135,6 @@ std::vector<Vector3> cuboid(double x, double y, double z) {
     return v;
 }
 
-std::vector<Vector3> column(double length, double cap) {
-    std::vector<Vector3> v{{0, -length - cap, 0}, {0, length + cap, 0}};
-    for (int k = 0; k < 6; ++k) {
-        const Point q = direction(60.0 * k);
-        v.push_back({q.x, -length, q.y});
-        v.push_back({q.x, length, q.y});
-    }
-    return v;
-}
-
 } // namespace crystals
 
 } // namespace tambrelle::engraver

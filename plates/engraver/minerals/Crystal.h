@@ -31,8 +31,6 @@ namespace crystals {
 std::vector<Vector3> bipyramid(double blunt, double elongation);
 /// A box of these half edges.
 std::vector<Vector3> cuboid(double x, double y, double z);
-/// A six-sided column of half length `length`, ending in pyramids of the height `cap`.
-std::vector<Vector3> column(double length, double cap);
 } // namespace crystals
 
 /// A place of the crystal's own space on the plate, for marks on its faces.

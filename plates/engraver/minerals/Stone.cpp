@@ -45,7 +45,7 @@ ReliefSurface stone(Plate& plate, const Path& corners, const StoneForm& form) {
         const double slope = random.uniform(0.15, 1.2);
         breaks.push_back({towards, slope, random.uniform(0.15, 0.75)});
     }
-    const Noise noise(form.seed, 5, 0.55);
+    const Noise noise(form.seed, 4, 0.55);
     ReliefForm r;
     r.palette = form.palette;
     r.soften = 1.6;

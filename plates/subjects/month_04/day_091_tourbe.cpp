@@ -12,9 +12,10 @@ void brick(Plate& p, Point front, Point left, Point right, std::uint64_t seed) {
     const RoughBlock b = roughBlock(p, {.front = front, .left = left, .right = right, .height = 30},
                                     {.beds = {{0.5, peat, 0}, {1, moss, 0.6}},
                                      .seed = seed,
-                                     .rough = 0.9,
+                                     .rough = 0.6,
                                      .grain = 9,
                                      .flat = 3,
+                                     .ragged = 1.1,
                                      .wavy = 3});
     for (const ReliefSurface* face : {&b.left, &b.right, &b.top}) {
         const Bounds r = boundsOf(face->outline);
@@ -33,14 +34,28 @@ void brick(Plate& p, Point front, Point left, Point right, std::uint64_t seed) {
 } // namespace
 
 // Peat: cut into dark brown bricks full of root fibres, and stacked crosswise with gaps to dry.
-static const Subject subject{"day_091_tourbe", [](Plate& p) {
-                                 ground(p, 70, 336, 298, 6);
-                                 brick(p, {214, 268}, {-98, -22}, {34, -14}, 11);
-                                 brick(p, {164, 288}, {-92, -20}, {34, -14}, 12);
-                                 brick(p, {262, 290}, {-86, -19}, {36, -16}, 13);
-                                 brick(p, {160, 243}, {-34, -10}, {94, -26}, 14);
-                                 brick(p, {220, 254}, {-36, -10}, {92, -26}, 15);
-                                 brick(p, {196, 214}, {-88, -20}, {34, -14}, 16);
-                                 brick(p, {252, 219}, {-88, -20}, {38, -16}, 17);
-                                 brick(p, {196, 180}, {-34, -10}, {88, -24}, 18);
-                             }};
+static const Subject subject{
+    "day_091_tourbe", [](Plate& p) {
+        ground(p, 76, 326, 286, 9);
+        const Point foot{196, 308}, left{-114, -28}, right{104, -36};
+        // What is seen between the bricks.
+        const auto stack = [&](double l, double r, double up) {
+            return foot + left * l + right * r - Point{0, 31 * up};
+        };
+        block(p, {.front = stack(0.08, 0.08, 0), .left = left * 0.84, .right = right * 0.84, .height = 90},
+              {.palette = {0x54402E, 0x38281A, 0x20150C},
+               .leftTone = 0.8,
+               .rightTone = 0.8,
+               .contour = 0,
+               .shade = 0});
+        std::uint64_t seed = 10;
+        for (int layer = 0; layer < 4; ++layer)
+            for (const double place : {0.74, 0.37, 0.0}) {
+                if (layer == 3 && place > 0.7)
+                    continue;
+                if (layer % 2 == 0)
+                    brick(p, stack(0, place, layer), left, right * 0.28, ++seed);
+                else
+                    brick(p, stack(place, 0, layer), left * 0.28, right, ++seed);
+            }
+    }};

@@ -11,16 +11,32 @@ static const Subject subject{
         ground(p, 66, 336, 300, 5);
         // The plume: rolling clouds drawn from the far ones to the near.
         const Palette smoke{0xF6F2EC, 0xCFC8C0, 0x8C837B};
-        for (const auto& [c, r] : {std::pair{Point{262, 66}, 25.0}, std::pair{Point{232, 58}, 30.0},
-                                   std::pair{Point{196, 74}, 27.0}, std::pair{Point{246, 88}, 24.0},
-                                   std::pair{Point{218, 92}, 24.0}, std::pair{Point{206, 116}, 18.0},
-                                   std::pair{Point{203, 136}, 13.0}})
-            relief(p,
-                   closedSpline({c + Point{-r, 0}, c + Point{-r * 0.7, -r * 0.62}, c + Point{0, -r * 0.9},
-                                 c + Point{r * 0.8, -r * 0.5}, c + Point{r, r * 0.1},
-                                 c + Point{r * 0.6, r * 0.6}, c + Point{-r * 0.1, r * 0.72},
-                                 c + Point{-r * 0.7, r * 0.5}}),
-                   {.palette = smoke, .bevel = r, .contour = 0.6, .shade = 0.12});
+        const std::vector<std::pair<Point, double>> billows{
+            {{270, 70}, 24.0}, {{238, 58}, 30.0}, {{200, 70}, 28.0},  {{252, 92}, 24.0},
+            {{176, 94}, 18.0}, {{218, 94}, 26.0}, {{206, 118}, 19.0}, {{204, 138}, 15.0}};
+        Path cloud; // how far the billows reach in every direction
+        for (int k = 0; k < 180; ++k) {
+            const Point d = direction(2.0 * k), middle{216, 92};
+            double reach = 4;
+            for (const auto& [c, r] : billows) {
+                const double along = dot(c - middle, d), aside = cross(c - middle, d);
+                if (r > std::fabs(aside))
+                    reach = std::max(reach, along + std::sqrt(r * r - aside * aside));
+            }
+            cloud.push_back(middle + d * reach);
+        }
+        ReliefForm steam{.palette = smoke, .contour = 0.7, .shade = 0.1};
+        steam.crossFrom = 0.8;
+        steam.height = [&](Point at, double) {
+            double z = 0;
+            for (const auto& [c, r] : billows) {
+                const Point q = at - c;
+                z = std::max(z, std::sqrt(std::max(0.0, r * r - dot(q, q))) + 0.22 * (at.y - 60));
+            }
+            return z;
+        };
+        steam.soften = 3;
+        relief(p, cloud, steam);
         const Path cone = joined(
             joined(brokenEdge({62, 304}, {128, 226}, 2.5, 3), brokenEdge({128, 226}, {178, 140}, 2.5, 4)),
             joined(

@@ -10,7 +10,7 @@ using namespace tambrelle::engraver;
 // subsoil.
 static const Subject subject{
     "day_097_terre_vegetale", [](Plate& p) {
-        ground(p, 80, 324, 302, 5);
+        ground(p, 72, 332, 288, 9);
         const Box sod{.front = {226, 312}, .left = {-146, -30}, .right = {92, -40}, .height = 108};
         const RoughBlock b =
             roughBlock(p, sod,
@@ -19,7 +19,9 @@ static const Subject subject{
                         .rough = 1.9,
                         .grain = 11,
                         .ragged = 2,
-                        .wavy = 5});
+                        .wavy = 5,
+                        .leftTone = 0.04,
+                        .rightTone = 0.32});
         for (const ReliefSurface* face : {&b.left, &b.right})
             strew(p, *face, 90, {{0.5, Colour{0xE6D6B8}, 0.8}, {0.3, sepia, 1}, {0.2, Colour{0xA58A6A}, 0.9}},
                   0.8, 2.6);
