@@ -14,7 +14,7 @@ static const Subject subject{
         ground(p, 84, 320, 296, 5);
         relief(p, closedSpline({{88, 296}, {92, 262}, {150, 240}, {250, 238}, {308, 260}, {316, 296}}),
                {.palette = palettes::stone, .bevel = 26, .creases = true});
-        mossCushion(p, {200, 250}, 222, 96, 30);
+        mossCushion(p, {200, 262}, 112, 70, 30);
         const auto fruit = [&](Point foot, Point top, double side) {
             tube(p,
                  {foot, lerp(foot, top, 0.6) + Point{-side * 6, 0}, top, top + Point{side * 10, -4},

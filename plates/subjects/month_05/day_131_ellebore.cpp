@@ -19,7 +19,7 @@ static const Subject subject{"day_131_ellebore", [](Plate& p) {
                                                .petiole = 0.42,
                                                .palette = palettes::darkleaf,
                                                .leaflets = 7,
-                                               .leafletWidth = 0.2},
+                                               .leafletWidth = 0.13},
                                               a < -90 ? -14 : 14);
                                  rootlets(p, {200, 334}, 20, 90, 130, 24, 1.4);
                                  const auto rose = [&](const Path& stalk, double degrees, double size) {
