@@ -11,7 +11,7 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{"day_131_ellebore", [](Plate& p) {
                                  for (const double a : {-164.0, -16.0, -136.0, -44.0})
-                                     growLeaf(p, {200, 330}, a, 150, 40,
+                                     growLeaf(p, {200, 330}, a, 128, 15,
                                               {.build = LeafKind::Build::digitate,
                                                .shape = shapes::obovate,
                                                .margin = serrate(6, 0.12),
@@ -20,7 +20,7 @@ static const Subject subject{"day_131_ellebore", [](Plate& p) {
                                                .palette = palettes::darkleaf,
                                                .leaflets = 7,
                                                .leafletWidth = 0.13},
-                                              a < -90 ? -14 : 14);
+                                              a < -90 ? -4 : 4);
                                  rootlets(p, {200, 334}, 20, 90, 130, 24, 1.4);
                                  const auto rose = [&](const Path& stalk, double degrees, double size) {
                                      stem(p, stalk, {4.4, 3.4}, mix(palettes::stem, palettes::redstem, 0.3));

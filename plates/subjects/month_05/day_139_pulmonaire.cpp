@@ -53,11 +53,11 @@ static const Subject subject{
                 const double way = -168 + 26.0 * k;
                 FlowerForm form = funnel;
                 form.palette = k % 2 == 0 ? mix(palettes::blue, palettes::violet, 0.3) : palettes::rose;
-                const Point tip = polar(curve.back(), way, 14 + 8 * (k % 2));
+                const Point tip = polar(curve.back(), way, 20 + 12 * (k % 2));
                 stem(p, {curve.back(), tip}, {1.5, 1.3});
                 flower(p, tip, way, form, size);
             }
         };
-        shoot({{198, 330}, {176, 240}, {136, 150}}, 1.05);
-        shoot({{202, 330}, {226, 236}, {266, 138}}, 1.15);
+        shoot({{198, 330}, {176, 240}, {136, 150}}, 1.5);
+        shoot({{202, 330}, {226, 236}, {266, 138}}, 1.6);
     }};
