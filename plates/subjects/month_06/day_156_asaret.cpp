@@ -4,7 +4,7 @@
 #include "plates/engraver/Sheet.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
-#include "plates/engraver/botany/CompoundLeaf.h"
+#include "plates/engraver/botany/Leaf.h"
 #include "plates/engraver/botany/Roots.h"
 
 using namespace tambrelle::engraver;
@@ -17,15 +17,15 @@ static const Subject subject{
             rootlets(p, {100 + 27.0 * k, 320}, 3, 90, 60, 26);
         const auto kidney = [&](const Path& stalk, double degrees, double size) {
             stem(p, stalk, {3.8, 3.2}, palettes::redstem);
-            palmateLeaf(
-                p, stalk.back(), degrees, size,
-                {.lobes =
-                     {{-150, 0.72}, {-110, 0.96}, {-60, 1.06}, {0, 1}, {60, 1.06}, {110, 0.96}, {150, 0.72}},
-                 .sinus = 0.96,
-                 .teeth = 0,
-                 .toothHeight = 0,
-                 .palette = palettes::darkleaf,
-                 .bulge = 1.4});
+            const Point at = stalk.back();
+            leaf(p,
+                 {polar(at, degrees + 180, size * 0.1), polar(at, degrees, size * 0.5),
+                  polar(at, degrees, size * 1.15)},
+                 {.width = size * 0.72,
+                  .shape = {0.78, 0.97, 1, 0.96, 0.84, 0.6, 0.1},
+                  .palette = palettes::darkleaf,
+                  .veins = 5,
+                  .slant = 0.12});
         };
         kidney({{196, 316}, {166, 250}, {126, 172}}, -112, 74);
         kidney({{208, 316}, {240, 250}, {276, 172}}, -68, 74);

@@ -30,7 +30,7 @@ static const Subject subject{
                                            way = angleAlong(curve, q);
                               const Point at = polar(along(curve, q), way + 90, s * 2.6);
                               pod(plate, {at, polar(at, way + s * 9, 13), polar(at, way + s * 3, 28)},
-                                  {.width = 2.5, .seeds = 4, .open = false});
+                                  {.width = 2.1, .seeds = 4, .open = false});
                           }
                       },
                       corymb({.flower = flowers({.petals = 4,

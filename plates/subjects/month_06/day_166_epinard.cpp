@@ -3,7 +3,7 @@
 #include "plates/engraver/Lathe.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
-#include "plates/engraver/botany/CompoundLeaf.h"
+#include "plates/engraver/botany/Leaf.h"
 #include "plates/engraver/botany/Roots.h"
 
 using namespace tambrelle::engraver;
@@ -16,13 +16,12 @@ static const Subject subject{
         const auto arrow = [&](double degrees, double stalk, double size, const Palette& palette) {
             const Point foot{200, 280}, at = polar(foot, degrees, stalk);
             stem(p, {foot, lerp(foot, at, 0.5) + Point{0, -4}, at}, {4.4, 3.4}, palettes::leafy);
-            palmateLeaf(p, at, degrees, size,
-                        {.lobes = {{-142, 0.52}, {0, 1}, {142, 0.52}},
-                         .sinus = 0.9,
-                         .teeth = 0,
-                         .toothHeight = 0,
-                         .palette = palette,
-                         .bulge = 1.8});
+            leaf(p, {at, polar(at, degrees, size * 0.5), polar(at, degrees, size)},
+                 {.width = size * 0.36,
+                  .shape = {0.75, 1, 0.78, 0.72, 0.64, 0.4, 0},
+                  .palette = palette,
+                  .veins = 6,
+                  .pucker = 0.24});
         };
         arrow(-158, 84, 76, palettes::darkleaf);
         arrow(-22, 84, 76, palettes::darkleaf);

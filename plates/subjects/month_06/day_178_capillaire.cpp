@@ -13,10 +13,10 @@ static const Subject subject{
             palmateLeaf(p, at, degrees, size,
                         {.lobes = {{-46, 0.92}, {-16, 1}, {16, 1}, {46, 0.92}},
                          .sinus = 0.84,
-                         .teeth = 1,
-                         .toothHeight = 1.4,
+                         .teeth = 0,
+                         .toothHeight = 0,
                          .palette = palettes::leafy,
-                         .bulge = 0.9});
+                         .bulge = 1.5});
         };
         rootlets(p, {200, 344}, 12, 90, 130, 16);
         const auto spray = [&](const Path& spine, double size) {
