@@ -32,9 +32,9 @@ static const Subject subject{
              {.palette = palettes::leafy, .lines = Lines::along});
         const Palette green = mix(palettes::bluegreen, palettes::darkleaf, 0.4);
         curd(p, {124, 190},
-             {.width = 42, .height = 34, .knobs = 42, .knob = 9, .palette = green, .grains = 9});
+             {.width = 42, .height = 34, .knobs = 42, .knob = 9, .palette = green, .grains = 7});
         curd(p, {276, 190},
-             {.width = 42, .height = 34, .knobs = 42, .knob = 9, .palette = green, .grains = 9});
+             {.width = 42, .height = 34, .knobs = 42, .knob = 9, .palette = green, .grains = 7});
         curd(p, {200, 168},
-             {.width = 74, .height = 62, .knobs = 92, .knob = 11, .palette = green, .grains = 9});
+             {.width = 74, .height = 62, .knobs = 92, .knob = 11, .palette = green, .grains = 7});
     }};

@@ -11,14 +11,13 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_163_fumeterre", [](Plate& p) {
-        const FlowerAt tubeFlower = [](Plate& plate, Point at, double degrees, double scale, int side) {
-            const double way =
-                side >= 0 ? degrees * 0.4 - 8 : -180 - (degrees < 0 ? (-180 - degrees) * -0.4 : 0) + 8;
+        const FlowerAt tubeFlower = [](Plate& plate, Point at, double, double scale, int side) {
+            const double way = side >= 0 ? -24 : -156;
             const Point d = direction(way);
-            tube(plate, {at - d * (7 * scale), at + d * (8 * scale), at + d * (25 * scale)},
-                 {5.2 * scale, 5.6 * scale, 4.4 * scale},
+            tube(plate, {at - d * (7 * scale), at + d * (8 * scale), at + d * (19 * scale)},
+                 {6.4 * scale, 5.6 * scale, 4.2 * scale},
                  {.palette = mix(palettes::pink, palettes::rose, 0.6), .lines = Lines::along});
-            ball(plate, at + d * (27 * scale), 5 * scale,
+            ball(plate, at + d * (21 * scale), 5 * scale,
                  {.palette = palettes::crimson, .direction = way, .tone = 0.3});
         };
         herb(p, {.height = 236,
@@ -39,7 +38,7 @@ static const Subject subject{
                  .leafAngle = 58,
                  .root = RootKind::taproot,
                  .inflorescence = raceme({.flower = tubeFlower,
-                                          .nodes = 7,
+                                          .nodes = 9,
                                           .from = 0.56,
                                           .perNode = 2,
                                           .angle = 70,
