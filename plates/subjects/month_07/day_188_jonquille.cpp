@@ -52,7 +52,7 @@ static const Subject subject{
                                .shape = {0.5, 0.75, 0.9, 1, 1.08},
                                .flute = 1.2,
                                .flutes = 12,
-                               .tone = 0.1,
+                               .tone = -0.12,
                                .palette = 1});
             for (int k = 0; k < 3; ++k)
                 sheets.rod(frame, {.azimuth = k * 120.0,
@@ -62,6 +62,6 @@ static const Subject subject{
                                    .tipRadius = 1.8,
                                    .palette = 1});
             sheets.engrave(p, {.palettes = {palettes::yellow, mix(palettes::yellow, palettes::orange, 0.65)},
-                               .washLift = 0.14});
+                               .washLift = 0.04});
         }
     }};

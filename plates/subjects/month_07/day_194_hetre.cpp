@@ -22,9 +22,9 @@ static const Subject subject{
         stem(p, {along(bough, 0.5), {200, 100}, {202, 136}}, {2.6, 3.4}, palettes::bark);
         husk(p, {202, 140}, 90,
              {.valves = 4,
-              .length = 82,
-              .width = 30,
-              .openness = 58,
+              .length = 92,
+              .width = 34,
+              .openness = 74,
               .palette = palettes::burr,
               .inside = palettes::cream,
               .prickles = 34,
@@ -43,8 +43,8 @@ static const Subject subject{
             p.contour(outline, 0.9);
             p.stroke({top, lerp(top, tip, 0.5) + side * 0.1, tip}, {.width = 0.9});
         };
-        beechnut({196, 150}, 100, 62);
-        beechnut({210, 150}, 78, 62);
+        beechnut({194, 150}, 106, 50);
+        beechnut({212, 150}, 74, 50);
         ground(p, 160, 270, 312, 3);
         beechnut({188, 262}, 80, 50);
         beechnut({222, 300}, -20, 50);

@@ -22,7 +22,7 @@ static const Subject subject{"day_196_laitue", [](Plate& p) {
                                            .cup = 1.0,
                                            .ruffle = 5,
                                            .ruffleTurns = 13,
-                                           .palette = palettes::leafy,
+                                           .palette = mix(palettes::leafy, palettes::cream, 0.35),
                                            .rib = 0.2,
                                            .pucker = 0.12,
                                            .tilt = 40});

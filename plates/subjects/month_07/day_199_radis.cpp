@@ -21,9 +21,9 @@ static const Subject subject{"day_199_radis", [](Plate& p) {
                                                          Radish{{160, 246}, 104}, Radish{{240, 246}, 76},
                                                          Radish{{200, 236}, 90}})
                                      rootVegetable(p, {.crown = r.crown,
-                                                       .length = 56,
-                                                       .shape = {10, 22, 27, 27, 20, 9, 2},
-                                                       .tail = 34,
+                                                       .length = 60,
+                                                       .shape = {7, 19, 25, 28, 28, 25, 17, 5},
+                                                       .tail = 32,
                                                        .palette = palettes::crimson,
                                                        .lower = palettes::whiteflower,
                                                        .lowerFrom = 0.7,

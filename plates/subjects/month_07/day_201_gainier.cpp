@@ -14,8 +14,8 @@ static const Subject subject{
         const LeafKind heart{
             .shape = shapes::cordate, .veins = 5, .petiole = 0.28, .palette = palettes::bluegreen};
         const Path bough = twig(p, {{62, 240}, {140, 200}, {230, 170}, {338, 92}}, {9, 7, 3});
-        growLeaf(p, along(bough, 0.97), 40, 104, 40, heart, 8);
-        growLeaf(p, along(bough, 0.86), 82, 118, 46, heart, 4);
+        growLeaf(p, along(bough, 0.97), 66, 88, 36, heart, 0);
+        growLeaf(p, along(bough, 0.8), 96, 112, 44, heart, 4);
         growLeaf(p, along(bough, 0.9), -124, 78, 30, heart, -6);
         for (const double x : {0.28, 0.36, 0.44}) {
             const Point from = along(bough, x);

@@ -10,7 +10,7 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_202_romaine", [](Plate& p) {
-        ground(p, 130, 270, 340, 5);
+        ground(p, 130, 270, 321, 5);
         leafHead(p, {200, 330},
                  {.leaves = 20,
                   .innerLength = 200,
@@ -25,7 +25,7 @@ static const Subject subject{
                   .cup = 1.1,
                   .curl = 16,
                   .ruffle = 3.5,
-                  .palette = palettes::leaf,
+                  .palette = mix(palettes::leafy, palettes::cream, 0.15),
                   .rib = 0.3,
                   .pucker = 0.1,
                   .tilt = 12});

@@ -29,8 +29,8 @@ static const Subject subject{
                  .root = RootKind::taproot,
                  .inflorescence =
                      raceme({.flower = flowers({.petals = 4,
-                                                .length = 21,
-                                                .width = 9.5,
+                                                .length = 18,
+                                                .width = 7.6,
                                                 .baseAngle = 66,
                                                 .tipAngle = 92,
                                                 .palette = palettes::cream,
@@ -49,9 +49,9 @@ static const Subject subject{
                                                 .tube = 9,
                                                 .eye = 2,
                                                 .washLift = 0}),
-                             .nodes = 5,
-                             .from = 0.66,
-                             .angle = 74,
-                             .pedicel = 12,
+                             .nodes = 4,
+                             .from = 0.7,
+                             .angle = 78,
+                             .pedicel = 16,
                              .smallest = 0.6})});
     }};

@@ -24,8 +24,8 @@ static const Subject subject{"day_277_concombre", [](Plate& p) {
                                  growLeaf(p, {124, 70}, 138, 118, 50, angled);
                                  growLeaf(p, {292, 68}, 40, 106, 46, angled);
                                  tendril(p, {204, 66}, -50, {.length = 36});
-                                 stem(p, {{236, 72}, {244, 92}, {246, 110}}, {2.2, 2});
-                                 flower(p, {247, 112}, 50,
+                                 stem(p, {{222, 70}, {214, 92}, {206, 116}}, {2.2, 2});
+                                 flower(p, {206, 118}, 110,
                                         {.length = 34,
                                          .width = 17,
                                          .baseAngle = 56,
@@ -35,14 +35,15 @@ static const Subject subject{"day_277_concombre", [](Plate& p) {
                                          .tilt = 58,
                                          .eye = 5,
                                          .eyePalette = palettes::orange,
-                                         .washLift = 0.2});
-                                 ground(p, 76, 330, 306, 4);
-                                 longFruit(p, {{86, 262}, {150, 280}, {220, 278}, {296, 240}},
+                                         .washLift = 0.02});
+                                 ground(p, 76, 330, 262, 4);
+                                 stem(p, {{160, 63}, {110, 130}, {80, 186}, {90, 220}}, {3, 2.6, 3});
+                                 longFruit(p, {{86, 214}, {150, 236}, {220, 234}, {300, 190}},
                                            {.radius = {12, 25, 28, 28, 27, 22, 9},
                                             .palette = palettes::darkleaf,
                                             .warts = 46,
                                             .stripes = 5});
-                                 cutFace(p, {300, 288},
+                                 cutFace(p, {306, 240},
                                          {.radius = 33,
                                           .squash = 0.92,
                                           .rind = palettes::darkleaf,

@@ -49,10 +49,10 @@ static const Subject subject{
                                          .palette = mix(palettes::whiteflower, palettes::pink, 0.3)})});
         for (const auto& [x, y, r] :
              {std::tuple{312.0, 252.0, 26.0}, {334.0, 300.0, 24.0}, {288.0, 304.0, 25.0}}) {
-            const LatheSurface seed = lathe(
-                p, {x, y + r}, r * 2, {r * 0.2, r * 0.75, r, r * 0.98, r * 0.72, r * 0.16},
-                {.tilt = 0.2, .palette = palettes::tan, .lines = Lines::along, .ribs = 14, .ribDepth = 0.06});
-            leaflet(p, seed.at(1, 90) + Point{0, 2}, seed.at(1, 90) + Point{2, -8},
-                    {.width = 2, .palette = palettes::brown});
+            ball(p, {x, y}, r, {.palette = palettes::tan, .direction = -90});
+            for (const double bulge : {-0.86, -0.6, -0.3, 0.0, 0.3, 0.6, 0.86})
+                p.stroke(spline({{x, y - r * 0.94}, {x + r * bulge, y}, {x, y + r * 0.94}}),
+                         {.width = 1.1, .swell = 0.3});
+            leaflet(p, {x, y - r + 2}, {x + 2, y - r - 9}, {.width = 2.4, .palette = palettes::brown});
         }
     }};

@@ -23,12 +23,12 @@ static const Subject subject{"day_282_artichaut", [](Plate& p) {
                                  scales(p, {200, 232}, -90,
                                         {.radius = 82,
                                          .length = 178,
-                                         .shape = {0.5, 0.9, 1, 0.92, 0.72, 0.46},
-                                         .rows = 8,
-                                         .perRow = 9,
-                                         .scaleWidth = 23,
-                                         .scaleLength = 58,
+                                         .shape = {0.34, 0.84, 1, 0.96, 0.76, 0.36},
+                                         .rows = 6,
+                                         .perRow = 7,
+                                         .scaleWidth = 34,
+                                         .scaleLength = 78,
                                          .scaleShape = {0.8, 1, 0.98, 0.74, 0.34, 0},
-                                         .palette = mix(palettes::bluegreen, palettes::leaf, 0.5),
+                                         .palette = mix(palettes::leafy, palettes::purple, 0.16),
                                          .spread = 12});
                              }};

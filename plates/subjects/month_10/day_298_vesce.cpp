@@ -16,7 +16,7 @@ static const Subject subject{
                                .veins = 3,
                                .petiole = 0.08,
                                .leaflets = 5,
-                               .leafletWidth = 0.26,
+                               .leafletWidth = 0.17,
                                .terminal = false};
         const Path curve = stem(p, {{190, 350}, {212, 270}, {190, 180}, {204, 50}}, {3.4, 2.6, 1.6});
         for (const auto& [q, a, size] : {std::tuple{0.1, -12.0, 138.0},
@@ -24,7 +24,7 @@ static const Subject subject{
                                          {0.44, -16.0, 138.0},
                                          {0.62, -160.0, 126.0},
                                          {0.8, -28.0, 104.0},
-                                         {0.96, -140.0, 76.0}})
+                                         {0.97, -172.0, 66.0}})
             growLeaf(p, along(curve, q), a, size, 25, pinnate, a < -90 ? -12 : 12);
         for (const auto& [q, side] : {std::tuple{0.44, 1}, {0.62, -1}, {0.8, 1}})
             for (const double lift : {-62.0, -22.0}) {
