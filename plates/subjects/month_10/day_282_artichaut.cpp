@@ -20,14 +20,14 @@ static const Subject subject{"day_282_artichaut", [](Plate& p) {
                                  blade.width = 22;
                                  leaf(p, {{198, 330}, {160, 312}, {120, 330}}, blade);
                                  leaf(p, {{202, 330}, {240, 312}, {280, 330}}, blade);
-                                 scales(p, {200, 232}, -90,
-                                        {.radius = 82,
-                                         .length = 178,
-                                         .shape = {0.34, 0.84, 1, 0.96, 0.76, 0.36},
+                                 scales(p, {200, 236}, -90,
+                                        {.radius = 78,
+                                         .length = 150,
+                                         .shape = {0.3, 0.8, 1, 0.98, 0.78, 0.3},
                                          .rows = 6,
                                          .perRow = 7,
-                                         .scaleWidth = 34,
-                                         .scaleLength = 78,
+                                         .scaleWidth = 29,
+                                         .scaleLength = 58,
                                          .scaleShape = {0.8, 1, 0.98, 0.74, 0.34, 0},
                                          .palette = mix(palettes::leafy, palettes::purple, 0.16),
                                          .spread = 12});

@@ -42,12 +42,12 @@ static const Subject subject{
         const auto truss = [&](double q, const Point& tip, int side) {
             const Path stalk =
                 stem(p, {along(curve, q), lerp(along(curve, q), tip, 0.5) + Point{0, 8}, tip}, {2.2, 1.6});
-            for (const double t : {0.68, 0.84, 1.0})
-                peaFlower(p, polar(along(stalk, t), side > 0 ? -60 + 40 * t : -120 - 40 * t, 7),
-                          side > 0 ? -24 : -156, 50, mix(palettes::magenta, palettes::purple, 0.3), side,
+            for (const double t : {0.62, 1.0})
+                peaFlower(p, polar(along(stalk, t), t < 0.9 ? -90 : (side > 0 ? 10 : 170), 9),
+                          side > 0 ? -40 : -140, 46, mix(palettes::magenta, palettes::purple, 0.3), side,
                           palettes::magenta);
         };
-        truss(0.56, {296, 116}, 1);
-        truss(0.78, {112, 84}, -1);
-        truss(0.3, {98, 226}, -1);
+        truss(0.56, {306, 128}, 1);
+        truss(0.78, {100, 84}, -1);
+        truss(0.3, {84, 230}, -1);
     }};
