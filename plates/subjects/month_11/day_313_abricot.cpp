@@ -1,0 +1,51 @@
+// Apricot, Prunus armeniaca: round heart-based leaves, an orange globe with a seam; a half with its smooth
+// stone.
+
+#include "plates/engraver/Ground.h"
+#include "plates/engraver/Subject.h"
+#include "plates/engraver/botany/Branch.h"
+#include "plates/engraver/botany/Leaf.h"
+#include "plates/engraver/botany/RootVegetable.h"
+
+using namespace tambrelle::engraver;
+
+static const Subject subject{
+    "day_313_abricot", [](Plate& p) {
+        branch(p, {.spine = {{96, 76}, {160, 60}, {230, 68}, {312, 54}},
+                   .leaf = {.shape = shapes::cordate,
+                            .margin = crenate(16, 0.07),
+                            .veins = 6,
+                            .petiole = 0.26,
+                            .stalk = palettes::redstem},
+                   .leaves = {{0.06, 140, 84, 25},
+                              {0.3, -130, 64, 20},
+                              {0.62, -50, 66, 21},
+                              {0.7, 64, 90, 27},
+                              {0.98, 24, 84, 25},
+                              {0.2, 100, 70, 22}},
+                   .fruits = {{0.2, hangingPome({.length = 86,
+                                                 .shape = {14, 36, 46, 51, 52, 49, 42, 30, 7},
+                                                 .palette = palettes::orange,
+                                                 .blush = palettes::scarlet,
+                                                 .stalk = 10,
+                                                 .direction = 96,
+                                                 .calyx = 0,
+                                                 .suture = true})},
+                              {0.52, hangingPome({.length = 92,
+                                                  .shape = {14, 38, 49, 54, 55, 52, 45, 32, 7},
+                                                  .palette = palettes::orange,
+                                                  .blush = palettes::scarlet,
+                                                  .stalk = 12,
+                                                  .direction = 88,
+                                                  .calyx = 0,
+                                                  .suture = true})}}});
+        ground(p, 236, 350, 292, 3);
+        cutFace(p, {294, 246},
+                {.radius = 44,
+                 .squash = 0.92,
+                 .rind = palettes::orange,
+                 .flesh = mix(palettes::orange, palettes::cream, 0.3),
+                 .rindWidth = 0.07,
+                 .stone = 0.46,
+                 .stonePalette = palettes::fawn});
+    }};
