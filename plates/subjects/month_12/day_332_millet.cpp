@@ -20,7 +20,8 @@ static const Subject subject{
                    .leafPalette = palettes::leaf,
                    .leaves = 3,
                    .leafLength = 130,
-                   .leafWidth = 10});
+                   .leafWidth = 10,
+                   .head = [](Plate&, const Path&) {}});
         const Path curve =
             spline({{158, 96}, {166, 70}, {194, 60}, {230, 78}, {258, 128}, {268, 190}, {270, 250}});
         stem(p, {{156, 130}, {158, 96}, {166, 70}, {194, 60}, {230, 78}, {258, 128}, {268, 190}, {270, 250}},
