@@ -13,29 +13,30 @@ static const Subject subject{
         grassTufts(p, 90, 330, 302, 10);
         for (int k = 0; k < 70; ++k) {
             const double rise = p.random.uniform(0, 1);
-            p.dot({276 + rise * 18 + p.random.around(8 + 30 * rise), 168 - rise * 84},
+            p.dot({276 + rise * 18 + p.random.around(8 + 30 * rise), 174 - rise * 84},
                   p.random.uniform(0.7, 1.7), Colour(0x8A6A40));
         }
         const auto club = [&](Point foot, double size, const Palette& palette, bool open) {
-            const LatheSurface s = lathe(p, foot, size * 1.7,
-                                         {size * 0.38, size * 0.46, size * 0.56, size * 0.82, size,
-                                          size * 0.96, size * 0.68, size * 0.08},
-                                         {.tilt = 0.22,
-                                          .palette = palette,
-                                          .lines = Lines::across,
-                                          .coverage = 0.32,
-                                          .hatchFrom = 0.32});
+            const LatheSurface s =
+                lathe(p, foot, size * 2.1,
+                      {size * 0.42, size * 0.44, size * 0.5, size * 0.62, size * 0.82, size * 0.96, size,
+                       size * 0.97, size * 0.87, size * 0.66, size * 0.12},
+                      {.tilt = 0.22,
+                       .palette = palette,
+                       .lines = Lines::across,
+                       .coverage = 0.32,
+                       .hatchFrom = 0.32});
             for (int row = 0; row < 11; ++row)
                 for (int k = 0; k < 26; ++k) {
                     const double u = 0.34 + row * 0.058, angle = k * 13.85 + (row % 2) * 7;
-                    if (s.facing(u, angle) < 0.15 || (open && u > 0.86))
+                    if (s.facing(u, angle) < 0.15 || (open && u > 0.92))
                         continue;
                     const Point at = s.at(u, angle);
                     p.stroke({at + Point{-1.4, 1.4}, at + Point{-0.2, -2}, at + Point{1.5, 1.2}},
                              {.width = 0.75, .swell = 0, .fade = 0.2});
                 }
             if (open) {
-                const Path hole = closedSpline(s.ring(0.93));
+                const Path hole = closedSpline(s.ring(0.96));
                 p.flat(hole, Colour(0x5A3E24));
                 p.contour(hole, 0.9);
             }

@@ -26,8 +26,8 @@ static const Subject subject{
         const auto husked = [&](Point at, double degrees, double size) {
             for (int k = 0; k < 5; ++k)
                 leaf(p,
-                     {at, polar(at, degrees + (k - 2) * 24, size * 1.0),
-                      polar(at, degrees + (k - 2) * 30, size * 1.95)},
+                     {at, polar(at, degrees + (k - 2) * 24, size * 0.8),
+                      polar(at, degrees + (k - 2) * 32, size * 1.5)},
                      {.width = size * 0.36,
                       .shape = {0.6, 0.9, 1, 1, 0.6, 0},
                       .margin = serrate(3, 0.45),
@@ -39,8 +39,8 @@ static const Subject subject{
                 const double f = (k - 2) / 2.0;
                 const Point from = polar(at, degrees + 90, f * size * 0.5);
                 leaf(p,
-                     {from, polar(from, degrees + f * 26, size * 0.5),
-                      polar(from, degrees + f * 46, size * (0.98 + 0.2 * std::fabs(f)))},
+                     {from, polar(from, degrees + f * 26, size * 0.4),
+                      polar(from, degrees + f * 46, size * (0.66 + 0.24 * std::fabs(f)))},
                      {.width = size * 0.3,
                       .shape = {0.8, 1, 1, 0.9, 0.6, 0},
                       .margin = serrate(2.5, 0.5),

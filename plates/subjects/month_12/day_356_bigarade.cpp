@@ -26,15 +26,15 @@ static const Subject subject{
         winged({292, 66}, 66, 128);
         winged({322, 60}, 8, 78);
         twig(p, {{76, 84}, {150, 66}, {236, 72}, {328, 58}}, {4.4, 3.6, 2.2}, palettes::stem);
-        hangingPome({.length = 98,
-                     .shape = {14, 38, 49, 53, 53, 50, 42, 28, 6},
+        hangingPome({.length = 100,
+                     .shape = {8, 31, 42, 48, 51, 52, 51, 48, 42, 31, 6},
                      .palette = palettes::orange,
                      .stalk = 12,
                      .direction = 96,
                      .calyx = 0,
                      .dots = 130})(p, {172, 66}, 90);
-        hangingPome({.length = 92,
-                     .shape = {14, 36, 46, 50, 50, 47, 40, 26, 6},
+        hangingPome({.length = 94,
+                     .shape = {8, 29, 39, 45, 48, 49, 48, 45, 39, 29, 6},
                      .palette = mix(palettes::orange, palettes::scarlet, 0.2),
                      .stalk = 66,
                      .direction = 88,
