@@ -52,6 +52,6 @@ static const Subject subject{
                                  .stamenLength = 0.45,
                                  .washLift = 0};
         flower(p, {196, 60}, -96, blossom);
-        flower(p, {264, 88}, 40, blossom, 0.85);
+        flower(p, {282, 60}, -70, blossom, 0.85);
         ball(p, {222, 96}, 8, {.palette = palettes::whiteflower, .direction = 80, .squash = 1.5});
     }};
