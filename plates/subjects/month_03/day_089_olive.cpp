@@ -31,8 +31,8 @@ static const Subject subject{
             const Point from = along(curve, q);
             stem(p, {from, lerp(from, at, 0.5) + Point{2, 0}, at}, {1.6, 1.6});
             lathe(p, at + Point{0, -2}, 72 * size,
-                  Profile(+[](double q) {
-                      return 2 + 24 * maths::pow(maths::sin(maths::pi * maths::pow(q, 0.95)), 0.62);
+                  Profile(+[](double r) {
+                      return 2 + 24 * maths::pow(maths::sin(maths::pi * maths::pow(r, 0.95)), 0.62);
                   }).times(size),
                   {.direction = 92, .tilt = 0.1, .palette = palette, .lines = Lines::along});
         };
