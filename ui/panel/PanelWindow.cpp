@@ -40,10 +40,13 @@ PanelWindow::PanelWindow(MenuBarView* view, PopoverKind kind)
 
 void PanelWindow::toggle(QPoint click) {
     const bool closedByThisClick = sinceLeft.isValid() && !sinceLeft.hasExpired(sameClick);
-    if (isVisible())
+    if (isVisible()) {
         close();
-    else if (!closedByThisClick)
+        // Closed on purpose, not by a loss of focus: the next click opens it.
+        sinceLeft.invalidate();
+    } else if (!closedByThisClick) {
         open(click);
+    }
 }
 
 void PanelWindow::present(QPoint place) {
@@ -93,6 +96,7 @@ void PanelWindow::keyPressEvent(QKeyEvent* event) {
         break;
     case Qt::Key_Escape:
         close();
+        sinceLeft.invalidate();
         break;
     default:
         QWidget::keyPressEvent(event);
