@@ -55,7 +55,7 @@ public:
     virtual void setDelegate(UserNotificationCenterDelegate* delegate) = 0;
 
     /// Asks whether notifications can be shown. `completion` is called on the main thread: with true when a
-    /// notification service answers, with false when none does.
+    /// notification service answers, however late; never while none does.
     virtual void requestAuthorization(std::function<void(bool granted)> completion) = 0;
 
     /// Forgets all that is pending; what has been delivered stays. What fell due before this call counts as

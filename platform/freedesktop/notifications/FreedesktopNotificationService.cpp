@@ -112,7 +112,7 @@ void FreedesktopNotificationService::send(const Notification& notification) {
             unshown = notification;
             return;
         }
-        // A service that won't tell is taken to read markup, as the specification has it for a body.
+        // A service that won't tell is taken to read markup, as the protocol has it for a body.
         notify(notification,
                capabilities.isError() || capabilities.value().contains(QStringLiteral("body-markup")));
     });

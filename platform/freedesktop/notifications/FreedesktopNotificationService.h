@@ -13,7 +13,7 @@ class QDBusError;
 
 namespace tambrelle {
 
-/// The session's org.freedesktop.Notifications (Desktop Notifications Specification 1.2). All calls are
+/// The session's org.freedesktop.Notifications (the desktop notifications protocol 1.2). All calls are
 /// asynchronous, and no error is reported to anyone.
 class FreedesktopNotificationService final : public QObject, public NotificationService {
 public:

@@ -7,7 +7,7 @@
 
 namespace tambrelle {
 
-/// The desktop's named sounds, as the XDG Sound Theme Specification 0.8 lays them out in folders.
+/// The desktop's named sounds, as the XDG sound themes, version 0.8, lay them out in folders.
 class SoundTheme final {
 public:
     /// `folders` hold themes, the first ones first asked; `name` is the user's theme.
