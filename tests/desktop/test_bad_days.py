@@ -2,6 +2,7 @@
 """A display, a bus, a preference file or a zone that is not as it should be."""
 
 import os
+import shutil
 
 from harness import DesktopTest, main, until
 from harness.private_etc import EtcOfOnesOwn
@@ -109,26 +110,35 @@ class Preferences(DesktopTest):
                 self.file().write_bytes(content)
                 self.shows_the_default()
 
-    def test_unreadable_files_count_as_empty(self):
+    def in_place_of_the_file(self, make):
+        """Runs the program with what `make` puts where the file would be; gives the names that are there afterwards."""
         file = self.file()
-        with self.subTest(case="a folder in its place"):
+        make(file)
+        self.shows_the_default()
+        names = {name.name for name in file.parent.iterdir()} if file.parent.is_dir() else set()
+        shutil.rmtree(file.parent) if file.parent.is_dir() else file.parent.unlink()
+        return names
+
+    def test_unreadable_files_count_as_empty(self):
+        def folder(file):
             file.mkdir()
-            self.shows_the_default()
-            file.rmdir()
-        with self.subTest(case="a link to itself"):
+
+        def link_to_itself(file):
             file.symlink_to(file)
-            self.shows_the_default()
-            file.unlink()
-        with self.subTest(case="no right to read"):
-            file.write_text("[General]\nmenuBarFormat=date\n", encoding="utf-8")
-            file.chmod(0)
-            if os.geteuid() != 0:  # root reads it nevertheless
-                self.shows_the_default()
-            file.unlink()
-        with self.subTest(case="a folder that is a file"):
+
+        def folder_that_is_a_file(file):
             file.parent.rmdir()
             file.parent.write_text("no folder", encoding="utf-8")
-            self.shows_the_default()
+
+        with self.subTest(case="a folder in its place"):
+            self.assertIn("tambrelle.conf.damaged", self.in_place_of_the_file(folder), "nobody's folder is lost")
+        with self.subTest(case="a link to itself"):
+            self.in_place_of_the_file(link_to_itself)
+        with self.subTest(case="a folder that is a file"):
+            self.in_place_of_the_file(folder_that_is_a_file)
+        if os.geteuid() != 0:  # root reads it nevertheless
+            with self.subTest(case="no right to read"):
+                self.in_place_of_the_file(lambda file: file.touch(mode=0))
 
 
 class LocalZone(DesktopTest):
