@@ -116,12 +116,13 @@ void Body::engrave(Plate& plate, const Style& style) {
     Grid<Vector3> normal(w, h);
     std::vector<Field> shares(colours, Field(w, h));
 
+    constexpr double half = tile / 2.0;
     std::vector<const Cone*> near;
     for (int ty = 0; ty < h; ty += tile)
         for (int tx = 0; tx < w; tx += tile) {
             // Only cones whose shadow on the plate comes near this tile can matter here.
-            const double cx = static_cast<double>(tx + window_.x + tile / 2) / coarse;
-            const double cy = static_cast<double>(ty + window_.y + tile / 2) / coarse;
+            const double cx = (tx + window_.x + half) / coarse;
+            const double cy = (ty + window_.y + half) / coarse;
             const double reach = 0.75 * tile / coarse + 3.5;
             near.clear();
             double front = -1e9, back = 1e9;

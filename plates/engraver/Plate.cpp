@@ -292,7 +292,7 @@ void Plate::hatch(const Patch& patch, const Hatch& how) {
     const int levels =
         std::max(0, static_cast<int>(std::ceil(maths::log2(std::max(reach / how.spacing / 3, 1.0)))));
     const int coarse = std::max(1, static_cast<int>(std::floor(reach / how.spacing / (1 << levels) + 0.5)));
-    const auto lines = static_cast<std::size_t>(coarse << levels);
+    const auto lines = static_cast<std::size_t>(coarse) << levels;
     std::vector<double> place(lines);
     std::size_t q = 0;
     for (std::size_t a = 0; a < lines; ++a) {

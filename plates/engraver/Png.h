@@ -7,7 +7,7 @@
 namespace tambrelle::engraver {
 
 /// The largest file a plate may have, in bytes.
-inline constexpr std::size_t largestFile = 90 * 1024;
+inline constexpr std::size_t largestFile = 90UL * 1024;
 
 /// A palette PNG without time stamps or other marks.
 std::vector<unsigned char> encodePng(const IndexedPicture& picture);

@@ -1,5 +1,7 @@
 #include "plates/engraver/Quantise.h"
 
+#include <cmath>
+
 namespace tambrelle::engraver {
 
 namespace {
@@ -14,6 +16,10 @@ struct Cell {
 int keyOf(const unsigned char* p) {
     return ((p[0] >> 2) << 12) | ((p[1] >> 2) << 6) | (p[2] >> 2);
 }
+unsigned char nearestByte(double level) {
+    return static_cast<unsigned char>(std::lround(level));
+}
+
 bool isWhite(const unsigned char* p) {
     return p[0] >= 253 && p[1] >= 253 && p[2] >= 253;
 }
@@ -156,9 +162,7 @@ IndexedPicture quantise(const Picture& picture, int colours) {
         for (std::size_t i = 0; i < cells.size(); ++i)
             lookup[static_cast<std::size_t>(cells[i].key)] = static_cast<unsigned char>(owner[i] + 1);
         for (const std::array<double, 3>& c : centres)
-            out.palette.push_back({static_cast<unsigned char>(c[0] + 0.5),
-                                   static_cast<unsigned char>(c[1] + 0.5),
-                                   static_cast<unsigned char>(c[2] + 0.5)});
+            out.palette.push_back({nearestByte(c[0]), nearestByte(c[1]), nearestByte(c[2])});
     }
     out.indices.reserve(picture.rgb.size() / 3);
     for (std::size_t i = 0; i < picture.rgb.size(); i += 3) {

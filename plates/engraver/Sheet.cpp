@@ -100,7 +100,7 @@ void Sheets::rod(const Frame& frame, const Rod& r) {
     add(
         n, 11,
         [&](double u, double v) {
-            const auto k = static_cast<std::size_t>(u * (n - 1) + 0.5);
+            const auto k = static_cast<std::size_t>(std::lround(u * (n - 1)));
             const double t = v * 2 * pi, radius = maths::lerp(r.radius, r.tipRadius, u);
             return frame({out[k] * ca + radius * maths::cos(t), out[k] * sa + radius * maths::sin(t), up[k]});
         },

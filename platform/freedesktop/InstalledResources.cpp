@@ -8,7 +8,7 @@ namespace tambrelle {
 namespace {
 
 QString resourceFolder() {
-    if (const QString chosen = qEnvironmentVariable("TAMBRELLE_RESOURCES"); !chosen.isEmpty())
+    if (QString chosen = qEnvironmentVariable("TAMBRELLE_RESOURCES"); !chosen.isEmpty())
         return chosen;
     const QString program = QCoreApplication::applicationDirPath();
     const QString inBuildTree = program + QStringLiteral("/share/tambrelle");

@@ -9,7 +9,7 @@ import shutil
 import subprocess
 import time
 
-from harness import DesktopTest, main, until
+from harness import DesktopTest, PanelTest, main, until
 
 RATE = 44100
 BLOCK = RATE // 20           # 50 ms
@@ -182,6 +182,21 @@ class Chime(ChimeTest):
         # The first one was cut off: before the last one there is less than a whole chime.
         self.assertLess(power(self.heard()) / power(sound), VOLUME * math.sqrt(2) - 0.05)
         self.assertEqual(program.output(), "")
+
+
+class ByHand(ChimeTest, PanelTest):
+    def test_alt_click_lets_it_be_heard(self):
+        self.start_sound_server()
+        sound = self.converted("short.wav", "-t", "2")
+        self.start(preferences=NO_NOTIFICATIONS, environment=self.resources({"marseillaise.wav": sound}))
+        self.open_panel()
+        self.desktop.click_with("alt", *self.middle_of(self.program.node("push button", "Toggle chime")))
+        self.wait_for_chime()
+        wanted = decoded(sound)
+        self.wait_for_level(wanted, VOLUME)
+        self.assertGreater(likeness(envelope(self.heard()), envelope(wanted)), 0.95)
+        self.assertIn("soundEnabled=true", self.program.preferences().splitlines(), "a trial switches nothing")
+        self.assertEqual(self.program.output(), "")
 
 
 class BadDays(ChimeTest):

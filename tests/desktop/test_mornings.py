@@ -7,7 +7,7 @@ import json
 import pathlib
 import time
 
-from harness import DesktopTest, main, until
+from harness import DesktopTest, PanelTest, main, until
 
 NAME = "org.freedesktop.Notifications"
 AT_EIGHT = {"notificationsConfigured": "true", "notificationsEnabled": "true",
@@ -143,6 +143,23 @@ class Mornings(MorningTest):
                 program.wait_for_text("🌫️ 24 Brumaire · Quartidi · 4:16")
                 self.assertEqual(self.shown(), [])
                 program.stop()
+
+
+class ByHand(MorningTest, PanelTest):
+    def test_a_time_set_in_the_settings_counts(self):
+        self.start_server()
+        self.start("2025-11-15 07:30:00", "🌫️ 23 Brumaire · Tridi · 3:12", preferences=AT_EIGHT)
+        self.open_settings()
+        x, y, _width, height = self.program.node("spin box", "Time").extents
+        self.desktop.click(x + 12, y + height // 2)  # the hour
+        self.desktop.key("Up")
+        self.preference_becomes("notificationHour=9")
+        self.desktop.clock.set("2025-11-15 07:59:58")
+        self.program.wait_for_text("🌫️ 23 Brumaire · Tridi · 3:33")
+        self.live(4, self.program)
+        self.desktop.clock.set("2025-11-15 08:59:58")
+        self.assertEqual(self.shown(), [], "not at the old time")
+        self.wait_for([DAY_15[0]], 2 + ON_TIME)
 
 
 class BadServices(MorningTest):

@@ -1,64 +1,13 @@
 #!/usr/bin/python3
 """The panel and the settings window, driven by real clicks and keys and read as a screen reader does."""
 
-from harness import DesktopTest, main, until
+from harness import PanelTest, main, until
+from harness.panel import LINE
 
-NOON = "2025-11-15 12:00:00"
-LINE = "🌫️ 23 Brumaire · Tridi · 5:00"
 TODAY = "23 Brumaire an CCXXXIV"
 TWO_DAYS_BEFORE_9_THERMIDOR = "2025-07-27 12:00:00"
 PARCHMENT, MAHOGANY = (237, 232, 219), (56, 41, 31)
 CONTROLS = ["Previous day", "Next day", "Toggle chime", "Copy", "Preferences", "Quit"]
-
-
-class PanelTest(DesktopTest):
-    line = None
-
-    def start(self, clock=NOON, line=LINE, **options):
-        self.desktop.clock.set(clock)
-        self.program = self.start_program(**options)
-        self.program.wait_for_text(line)
-        return self.program
-
-    def place_of_line(self):
-        """The middle of the line, in the bar or afloat, once its window is there to be clicked."""
-        def window():
-            """While nothing else is open, the line's window is the program's only one."""
-            docked = self.desktop.docked_windows(self.program)
-            return (docked or self.desktop.x11.windows_of(self.program.pid))[-1]
-
-        before = None
-        def settled():
-            nonlocal before
-            last, before = before, window()
-            return before if before == last else None
-
-        place = until("the line stands still", settled, every=0.1)
-        return place.x + place.width // 2, place.y + place.height // 2
-
-    @staticmethod
-    def middle_of(node):
-        x, y, width, height = node.extents
-        return x + width // 2, y + height // 2
-
-    def open_panel(self):
-        if self.line is None:
-            self.line = self.place_of_line()
-        self.desktop.click(*self.line)
-        until("the panel is open", self.panel_is_open)
-
-    def panel_is_open(self):
-        self.program.must_run()
-        return bool(self.program.nodes("push button", "Next day"))
-
-    def until_closed(self):
-        until("the panel is closed", lambda: not self.panel_is_open())
-
-    def click_on(self, name, role="push button"):
-        self.desktop.click(*self.middle_of(until(f"{name!r} is there", lambda: self.program.node(role, name))))
-
-    def preference_becomes(self, line):
-        until(f"the preferences say {line}", lambda: line in self.program.preferences().splitlines())
 
 
 class Manners(PanelTest):
@@ -146,16 +95,6 @@ class Panel(PanelTest):
         self.click_on("Toggle chime")
         self.preference_becomes("soundEnabled=true")
 
-    def test_tests_the_chime_with_option(self):
-        """No sound service answers here: the chime's failure to play is what can be heard of it."""
-        self.start()
-        self.open_panel()
-        place = self.middle_of(self.program.node("push button", "Toggle chime"))
-        self.assertNotIn("Failed to play sound: ", self.program.output())
-        self.desktop.click_with("alt", *place)
-        until("the chime has been tried", lambda: "Failed to play sound: " in self.program.output())
-        self.assertIn("soundEnabled=true", self.program.preferences().splitlines(), "a test switches nothing")
-
     def test_quits(self):
         self.start()
         self.open_panel()
@@ -164,12 +103,6 @@ class Panel(PanelTest):
 
 
 class Settings(PanelTest):
-    def open_settings(self):
-        if not self.panel_is_open():
-            self.open_panel()
-        self.click_on("Preferences")
-        until("the settings are open", lambda: self.program.nodes("check box", "Launch at login"))
-
     def choose(self, present, option):
         """To a screen reader a picker bears the name of its option. Until the list is open, its items have no place."""
         self.click_on(present, "combo box")

@@ -51,11 +51,12 @@ int darkest(const Picture& p, int x, int y) {
 
 // The picture in 24 x 24 grey cells.
 std::vector<double> thumbnail(const Picture& p) {
-    constexpr int cells = 24;
+    constexpr std::size_t cells = 24;
     std::vector<double> sums(cells * cells, 0.0), counts(cells * cells, 0.0);
     for (int y = 0; y < p.height; ++y)
         for (int x = 0; x < p.width; ++x) {
-            const auto k = static_cast<std::size_t>(y * cells / p.height * cells + x * cells / p.width);
+            const auto k = static_cast<std::size_t>(y) * cells / static_cast<std::size_t>(p.height) * cells +
+                           static_cast<std::size_t>(x) * cells / static_cast<std::size_t>(p.width);
             const std::size_t i = static_cast<std::size_t>(y * p.width + x) * 3;
             sums[k] += (p.rgb[i] + p.rgb[i + 1] + p.rgb[i + 2]) / 3.0;
             counts[k] += 1;

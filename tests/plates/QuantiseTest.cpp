@@ -16,7 +16,7 @@ Picture gradient() {
         for (int x = 0; x < 64; ++x)
             for (const int c : {x * 4, y * 4, 128})
                 picture.rgb.push_back(static_cast<unsigned char>(c));
-    for (std::size_t i = 0; i < 64 * 3; ++i)
+    for (std::size_t i = 0; i < std::size_t{64} * 3; ++i)
         picture.rgb[i] = 255;
     return picture;
 }

@@ -104,7 +104,7 @@ TEST_F(AutostartLoginItemTest, NoiseInTheEntrysPlaceIsOff) {
     EXPECT_FALSE(item().isEnabled());
     write("");
     EXPECT_FALSE(item().isEnabled());
-    write(QByteArray(1024 * 1024, 'x') + "\nExec=/usr/bin/tambrelle\n");
+    write(QByteArray(1 << 20, 'x') + "\nExec=/usr/bin/tambrelle\n");
     EXPECT_FALSE(item().isEnabled());
 }
 

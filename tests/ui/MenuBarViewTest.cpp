@@ -157,7 +157,7 @@ TEST_F(MenuBarViewTest, FollowsThePaddingsAndSpacings) {
     EXPECT_EQ(place(label("Standard Time")).y() - standard.bottom() - 1, 4);
     EXPECT_EQ(lines[1] - place(label("Decimal Time")).bottom() - 1, 16);
     EXPECT_EQ(standard.x() - decimal.right() - 1, 20 + 1 + 20);
-    EXPECT_NEAR((decimal.left() + standard.right()) / 2, 160, 1) << "the two clocks stand in the middle";
+    EXPECT_NEAR((decimal.left() + standard.right()) / 2.0, 160, 1) << "the two clocks stand in the middle";
 
     const QRect frame = place(panel->findChild<PictureView*>());
     EXPECT_EQ(frame, QRect(16, lines[1] + 1 + 16, 288, 260));

@@ -33,7 +33,7 @@ protected:
     QString plate(const QSize& size, const QColor& color) {
         QImage image(size, QImage::Format_RGB32);
         image.fill(color);
-        const QString file = folder.filePath("plate.png");
+        QString file = folder.filePath("plate.png");
         EXPECT_TRUE(image.save(file));
         return file;
     }

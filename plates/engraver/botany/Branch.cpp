@@ -7,7 +7,7 @@ namespace tambrelle::engraver {
 using maths::smooth;
 
 Path branch(Plate& plate, const BranchForm& f) {
-    const Path curve = spline(f.spine, 30);
+    Path curve = spline(f.spine, 30);
     for (const BranchFruit& b : f.behind)
         b.fruit(plate, along(curve, b.at), angleAlong(curve, b.at));
     for (const Path& side : f.sideTwigs)
@@ -62,7 +62,7 @@ LatheSurface pome(Plate& plate, Point at, const PomeForm& f) {
             return mix(c, ramp(*f.blush, tone * 0.8 + 0.1),
                        0.85 * smooth(0.45, 0.95, lit * (0.75 + 0.5 * maths::sin(u * maths::pi))));
         };
-    const LatheSurface s = lathe(plate, top, f.length, f.shape, form);
+    LatheSurface s = lathe(plate, top, f.length, f.shape, form);
     if (f.suture)
         plate.stroke(
             [&] {
@@ -174,6 +174,7 @@ void drupelets(Plate& plate, Point at, double degrees, double radius, double len
                          radius * maths::pow(std::max(0.0, maths::sin(maths::pi * (0.12 + 0.82 * u))), 0.7);
         const int n = std::max(2, static_cast<int>(reach * 3.0 / (size * 1.8)));
         std::vector<double> places;
+        places.reserve(static_cast<std::size_t>(n));
         for (int k = 0; k < n; ++k)
             places.push_back((k + 0.5 + 0.5 * (i % 2) * (k + 1 < n ? 1 : 0)) / n * 2 - 1);
         std::stable_sort(places.begin(), places.end(),

@@ -18,12 +18,12 @@ void stalk(Plate& plate, const Path& spine, double radius, const Palette& palett
 
 } // namespace
 
-FlowerAt flowers(FlowerForm form) {
+FlowerAt flowers(const FlowerForm& form) {
     return [form](Plate& p, Point at, double degrees, double scale, int) {
         flower(p, at, degrees, form, scale);
     };
 }
-FlowerAt bells(BellForm form) {
+FlowerAt bells(const BellForm& form) {
     return
         [form](Plate& p, Point at, double degrees, double scale, int) { bell(p, at, degrees, form, scale); };
 }
@@ -42,17 +42,17 @@ FlowerAt florets(double radius, Palette palette, int petals) {
         floret(p, at, radius * scale, palette, petals);
     };
 }
-FlowerAt composites(CompositeForm form) {
+FlowerAt composites(const CompositeForm& form) {
     return [form](Plate& p, Point at, double degrees, double scale, int) {
         compositeHead(p, at, degrees, form, scale);
     };
 }
-FlowerAt globes(GlobeForm form) {
+FlowerAt globes(const GlobeForm& form) {
     return [form](Plate& p, Point at, double degrees, double scale, int) {
         globeHead(p, at, degrees, form, scale);
     };
 }
-FlowerAt thistles(ThistleForm form) {
+FlowerAt thistles(const ThistleForm& form) {
     return [form](Plate& p, Point at, double degrees, double scale, int) {
         thistleHead(p, at, degrees, form, scale);
     };
@@ -64,11 +64,11 @@ FlowerAt berries(double radius, Palette palette, double squash) {
     };
 }
 
-Inflorescence solitary(FlowerAt flower) {
+Inflorescence solitary(const FlowerAt& flower) {
     return [flower](Plate& p, const Path& stem) { flower(p, stem.back(), angleAlong(stem, 1), 1, 1); };
 }
 
-Inflorescence raceme(Raceme f) {
+Inflorescence raceme(const Raceme& f) {
     return [f](Plate& p, const Path& stem) {
         for (int i = 0; i < f.nodes; ++i) {
             const double t = f.nodes > 1 ? i / static_cast<double>(f.nodes - 1) : 0.5;
@@ -100,7 +100,7 @@ Inflorescence raceme(Raceme f) {
     };
 }
 
-Inflorescence corymb(Corymb f) {
+Inflorescence corymb(const Corymb& f) {
     return [f](Plate& p, const Path& stem) {
         struct Arm {
             double reach, angle;
@@ -128,11 +128,12 @@ Inflorescence corymb(Corymb f) {
     };
 }
 
-Inflorescence umbel(Umbel f) {
+Inflorescence umbel(const Umbel& f) {
     return [f](Plate& p, const Path& stem) {
         const Point tip = stem.back();
         const double way = angleAlong(stem, 1);
         std::vector<std::pair<double, int>> order;
+        order.reserve(static_cast<std::size_t>(f.rays));
         for (int k = 0; k < f.rays; ++k)
             order.emplace_back(-std::fabs(k - (f.rays - 1) / 2.0), k);
         std::stable_sort(order.begin(), order.end(),
@@ -163,7 +164,7 @@ Inflorescence umbel(Umbel f) {
     };
 }
 
-Inflorescence spike(Spike f) {
+Inflorescence spike(const Spike& f) {
     return [f](Plate& p, const Path& stem) {
         const double size = arcLength(stem) * (1 - f.from);
         const Path s = resample(stem, 200);
@@ -195,7 +196,7 @@ Inflorescence spike(Spike f) {
     };
 }
 
-Inflorescence panicle(Panicle f) {
+Inflorescence panicle(const Panicle& f) {
     return [f](Plate& p, const Path& stem) {
         for (int i = 0; i < f.branches; ++i) {
             const double t = i / static_cast<double>(std::max(f.branches - 1, 1));
@@ -226,11 +227,12 @@ Inflorescence panicle(Panicle f) {
     };
 }
 
-Inflorescence coiledCyme(CoiledCyme f) {
+Inflorescence coiledCyme(const CoiledCyme& f) {
     return [f](Plate& p, const Path& stem) {
         for (int branch = 0; branch < f.branches; ++branch) {
             const int side = branch % 2 == 0 ? 1 : -1;
-            const Point at = along(stem, 1 - 0.12 * (branch / 2));
+            const int pair = branch / 2;
+            const Point at = along(stem, 1 - 0.12 * pair);
             const double way = angleAlong(stem, 1) + side * f.angle;
             Path curl = spline(
                 {at, polar(at, way - side * 6, f.length * 0.5), polar(at, way + side * 6, f.length)}, 16);
@@ -254,7 +256,7 @@ Inflorescence coiledCyme(CoiledCyme f) {
     };
 }
 
-Inflorescence together(std::vector<Inflorescence> parts) {
+Inflorescence together(const std::vector<Inflorescence>& parts) {
     return [parts](Plate& p, const Path& stem) {
         for (const Inflorescence& part : parts)
             part(p, stem);

@@ -12,19 +12,19 @@ using FlowerAt = std::function<void(Plate&, Point at, double degrees, double sca
 using Inflorescence = std::function<void(Plate&, const Path& stem)>;
 
 // Ready-made flowers for clusters.
-FlowerAt flowers(FlowerForm form);
-FlowerAt bells(BellForm form);
+FlowerAt flowers(const FlowerForm& form);
+FlowerAt bells(const BellForm& form);
 FlowerAt lips(double size, Palette palette);
 FlowerAt peas(double size, Palette palette);
 FlowerAt florets(double radius, Palette palette, int petals = 5);
-FlowerAt composites(CompositeForm form);
-FlowerAt globes(GlobeForm form);
-FlowerAt thistles(ThistleForm form);
+FlowerAt composites(const CompositeForm& form);
+FlowerAt globes(const GlobeForm& form);
+FlowerAt thistles(const ThistleForm& form);
 /// Plain berries or buds.
 FlowerAt berries(double radius, Palette palette, double squash = 1);
 
 /// One flower at the tip.
-Inflorescence solitary(FlowerAt flower);
+Inflorescence solitary(const FlowerAt& flower);
 
 /// Stalked flowers up a stem: raceme; without stalks: spike; `perNode` 3 or more: whorls.
 struct Raceme {
@@ -46,7 +46,7 @@ struct Raceme {
     int oneSided = 0;
     Palette stalk = palettes::stem;
 };
-Inflorescence raceme(Raceme form);
+Inflorescence raceme(const Raceme& form);
 
 /// Stalks from one point (umbel) or to one level (corymb): flowers spread over `spread` degrees at the tip.
 struct Corymb {
@@ -57,7 +57,7 @@ struct Corymb {
     double scale = 1;
     Palette stalk = palettes::stem;
 };
-Inflorescence corymb(Corymb form);
+Inflorescence corymb(const Corymb& form);
 
 /// Umbel of umbels, seen from the side: hemlock, coriander, angelica.
 struct Umbel {
@@ -75,7 +75,7 @@ struct Umbel {
     Palette stalk = palettes::stem;
     double rayRadius = 1.1;
 };
-Inflorescence umbel(Umbel form);
+Inflorescence umbel(const Umbel& form);
 
 /// Many tiny flowers close along the stem: mignonette, amaranth, plantain.
 struct Spike {
@@ -90,7 +90,7 @@ struct Spike {
     Palette second = palettes::greygreen;
     double secondShare = 0.3;
 };
-Inflorescence spike(Spike form);
+Inflorescence spike(const Spike& form);
 
 /// Branches that bear clusters: panicles (lilac, privet, lady's bedstraw).
 struct Panicle {
@@ -107,7 +107,7 @@ struct Panicle {
     double rise = 1;
     Palette stalk = palettes::stem;
 };
-Inflorescence panicle(Panicle form);
+Inflorescence panicle(const Panicle& form);
 
 /// A coiled (scorpioid) cyme: comfrey, heliotrope, viper's bugloss. Flowers sit on the outer side of the
 /// curl.
@@ -123,9 +123,9 @@ struct CoiledCyme {
     double angle = 40;
     Palette stalk = palettes::stem;
 };
-Inflorescence coiledCyme(CoiledCyme form);
+Inflorescence coiledCyme(const CoiledCyme& form);
 
 /// Several inflorescences on one stem.
-Inflorescence together(std::vector<Inflorescence> parts);
+Inflorescence together(const std::vector<Inflorescence>& parts);
 
 } // namespace tambrelle::engraver

@@ -67,7 +67,7 @@ Path leaf(Plate& plate, const Path& spine, const LeafForm& form) {
         right.push_back(blade.at(fraction(i, edge), 1, true));
         left.push_back(blade.at(fraction(i, edge), -1, true));
     }
-    const Path outline = band(right, left);
+    Path outline = band(right, left);
     const int lit = form.lit != 0 ? form.lit : (dot(blade.sideways(), shadeSide) < 0 ? 1 : -1);
     plate.knockOut(outline, {.halo = form.halo, .shade = form.shade});
     {
@@ -136,7 +136,7 @@ Path leaflet(Plate& plate, Point base, Point tip, const LeafletForm& form) {
         right.push_back(s[i] + normal[i] * w);
         left.push_back(s[i] - normal[i] * w);
     }
-    const Path outline = band(right, left);
+    Path outline = band(right, left);
     plate.knockOut(outline, {.halo = form.halo, .shade = form.shade});
     plate.flat(outline, form.palette, form.tone + 0.12);
     const Path& dark = dot(normal[n / 2], shadeSide) > 0 ? right : left;

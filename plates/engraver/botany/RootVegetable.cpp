@@ -50,7 +50,7 @@ Path swollenRoot(Plate& plate, const RootVegetableForm& f) {
         }
         return s.outline;
     }
-    const Path curve =
+    Path curve =
         tube(plate, spine, Profile(radii),
              {.palette = f.palette, .lines = f.lines, .spacing = 2.0, .tone = -0.04, .rough = f.rough});
     for (int k = 0; k < f.lenticels; ++k) {

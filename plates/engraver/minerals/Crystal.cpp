@@ -75,7 +75,7 @@ Path crystal(Plate& plate, const std::vector<Vector3>& corners, Point centre, co
         v.push_back(turned(c, form.turn));
         flat.push_back(centre + Point{v.back().x, v.back().y} * form.scale);
     }
-    const Path outline = hull(flat);
+    Path outline = hull(flat);
     plate.knockOut(outline, {.shade = form.shade});
     plate.flat(outline, form.palette, 0.3);
     const auto facets = facetsOf(v);

@@ -12,6 +12,7 @@ when the test itself was killed.
 from .case import DesktopTest, main
 from .desktop import Desktop
 from .hosts import HOSTS, host_named
+from .panel import PanelTest
 from .waiting import Late, until
 
-__all__ = ["Desktop", "DesktopTest", "HOSTS", "Late", "host_named", "main", "until"]
+__all__ = ["Desktop", "DesktopTest", "HOSTS", "Late", "PanelTest", "host_named", "main", "until"]
