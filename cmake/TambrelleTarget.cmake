@@ -23,6 +23,10 @@ if(TAMBRELLE_SANITIZE)
   target_compile_options(tambrelle_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(tambrelle_options INTERFACE -fsanitize=address,undefined)
+elseif(TAMBRELLE_FUZZ)
+  target_compile_options(tambrelle_options INTERFACE
+    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize=vptr -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tambrelle_options INTERFACE -fsanitize=address,undefined)
 else()
   # GCC 12 knows the third level of fortification; an older compiler takes it for the second.
   target_compile_options(tambrelle_options INTERFACE

@@ -20,6 +20,7 @@ packages_of() {
         ;;
     test) # what ./check asks for beyond that
         echo libgtest-dev libgmock-dev libbenchmark-dev clang-format-14 clang-tidy-14 ccache
+        echo clang-14 libclang-rt-14-dev gcovr
         echo desktop-file-utils appstream libxml2-utils man-db groff-base mandoc shellcheck
         echo pulseaudio pulseaudio-utils sox ffmpeg strace binutils
         ;;
