@@ -160,19 +160,6 @@ void smallPetal(Plate& plate, Point base, Point tip, double width, const Palette
 }
 } // namespace
 
-void peaFlower(Plate& plate, Point c, double degrees, double size, const Palette& palette, int side,
-               std::optional<Palette> wings) {
-    const Palette wing = wings.value_or(palette);
-    const Point standard = polar(c, degrees - side * 58, size);
-    smallPetal(plate, c, standard, size * 0.6, palette, Profile{0.35, 0.8, 1, 1, 0.72, 0}, 0, 0);
-    smallPetal(plate, c, polar(c, degrees + side * 24, size * 0.74), size * 0.22,
-               mix(palette, palettes::whiteflower, 0.6), shapes::elliptic, side * size * 0.08, 0.05);
-    smallPetal(plate, c, polar(c, degrees + side * 2, size * 0.9), size * 0.34, wing, shapes::elliptic,
-               side * size * 0.1, 0.12);
-    leaflet(plate, polar(c, degrees + 180, size * 0.18), polar(c, degrees, size * 0.24),
-            {.width = size * 0.16, .shape = shapes::elliptic, .hatched = false});
-}
-
 void lipFlower(Plate& plate, Point c, double degrees, double size, const Palette& palette, int side) {
     const Point mouth = polar(c, degrees, size * 0.5);
     tube(plate, {c, mouth}, {size * 0.12, size * 0.21},
