@@ -1,54 +1,71 @@
 // Groundsel bush, Baccharis halimifolia: a woody twig, wedge leaves with a few coarse teeth, heads like
-// small shaving brushes of white silk.
+// small shaving brushes of white silk in green cups.
 
 #include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
 #include "plates/engraver/botany/CompoundLeaf.h"
 #include "plates/engraver/botany/Flower.h"
-#include "plates/engraver/botany/Inflorescence.h"
+#include "plates/engraver/botany/Leaf.h"
 
 using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_051_bacchante", [](Plate& p) {
-        const auto brush = [](Plate& plate, Point at, double degrees, double scale, int) {
-            Path fan{polar(at, degrees - 90, 4 * scale)};
-            for (int k = -4; k <= 4; ++k)
-                fan.push_back(polar(at, degrees + k * 7.5, (k % 2 == 0 ? 30 : 26) * scale));
-            fan.push_back(polar(at, degrees + 90, 4 * scale));
-            plate.knockOut(fan);
-            plate.flat(fan, palettes::whiteflower, 0.12);
-            plate.contour(fan, 0.7);
-            for (int k = -3; k <= 3; ++k)
-                plate.stroke(
-                    {polar(at, degrees + k * 5.0, 8 * scale), polar(at, degrees + k * 7.5, 26 * scale)},
-                    {.width = 0.5});
-            scales(plate, polar(at, degrees, -2), degrees,
-                   {.radius = 5, .length = 12, .rows = 4, .perRow = 6}, scale);
+        const auto brush = [&](Point at, double degrees, double size) {
+            const Point mouth = polar(at, degrees, size * 0.34);
+            for (int layer = 0; layer < 3; ++layer)
+                for (int k = -6; k <= 6; ++k) {
+                    const double x = k / 6.0;
+                    const Point base = mouth + rightOf(direction(degrees)) * (x * size * 0.13);
+                    leaflet(p, base,
+                            polar(base, degrees + x * (34 - 8 * layer) + p.random.around(3),
+                                  size * (0.86 - 0.2 * layer) * p.random.uniform(0.88, 1.06)),
+                            {.width = size * 0.042,
+                             .palette = palettes::whiteflower,
+                             .shape = {0.4, 0.6, 0.9, 1, 0.7, 0},
+                             .tone = -0.1 + 0.12 * layer + 0.12 * x,
+                             .contour = 0.45,
+                             .hatched = false,
+                             .midrib = false,
+                             .shade = 0.1});
+                }
+            scales(p, at, degrees,
+                   {.radius = size * 0.17,
+                    .length = size * 0.4,
+                    .shape = {0.6, 1, 1, 0.95, 0.85},
+                    .rows = 5,
+                    .perRow = 6,
+                    .spread = 6});
         };
-        const LeafKind wedge{.shape = {0.08, 0.25, 0.55, 0.95, 0.9, 0.35, 0},
+        const Path main{{196, 350}, {206, 270}, {196, 190}, {202, 110}};
+        const Path curve = spline(main);
+        const LeafKind wedge{.shape = {0.08, 0.25, 0.6, 1, 0.9, 0.4, 0},
                              .margin = dentate(3, 0.3),
                              .veins = 3,
-                             .petiole = 0.08,
-                             .palette = palettes::greygreen};
-        const auto shoot = [&](const Path& spine, double size) {
-            const Path curve = twig(p, spine, {4.4, 3.2, 1.8});
-            for (int k = 0; k < 8; ++k) {
-                const double q = 0.12 + 0.1 * k;
-                growLeaf(p, along(curve, q), angleAlong(curve, q) + (k % 2 == 0 ? 50 : -50),
-                         (74 - 3.6 * k) * size, (16 - 0.6 * k) * size, wedge);
-            }
-            panicle({.flower = brush,
-                     .from = 0.6,
-                     .branches = 8,
-                     .perBranch = 1,
-                     .width = 40 * size,
-                     .angle = 46,
-                     .largest = size,
-                     .smallest = 0.8 * size})(p, curve);
+                             .petiole = 0.06,
+                             .palette = palettes::leaf};
+        for (const auto& [q, degrees, size] : {std::tuple{0.12, -168.0, 104.0},
+                                               {0.18, -14.0, 106.0},
+                                               {0.34, -160.0, 112.0},
+                                               {0.4, -24.0, 110.0},
+                                               {0.55, -156.0, 92.0},
+                                               {0.58, -26.0, 92.0}})
+            growLeaf(p, along(curve, q), degrees, size, size * 0.21, wedge, degrees < -90 ? 5 : -5);
+        struct Head {
+            double from;
+            Point at;
+            double degrees, size;
         };
-        shoot({{196, 338}, {160, 262}, {128, 180}, {118, 128}}, 0.86);
-        shoot({{206, 338}, {246, 262}, {276, 184}, {290, 136}}, 0.86);
-        shoot({{200, 344}, {204, 250}, {198, 160}, {202, 84}}, 1);
+        const Head heads[] = {{0.6, {112, 176}, -138, 62},  {0.6, {288, 172}, -42, 62},
+                              {0.72, {146, 118}, -114, 68}, {0.72, {256, 116}, -66, 68},
+                              {0.8, {172, 164}, -122, 54},  {0.8, {232, 160}, -58, 54},
+                              {0.96, {202, 98}, -90, 74}};
+        for (const Head& h : heads) {
+            const Point from = along(curve, h.from);
+            tube(p, {from, lerp(from, h.at, 0.5) + Point{0, 8}, h.at}, {2.6, 2.2});
+        }
+        twig(p, main, {5, 4, 2.4});
+        for (const Head& h : heads)
+            brush(h.at, h.degrees, h.size);
     }};

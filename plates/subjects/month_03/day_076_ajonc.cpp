@@ -36,7 +36,7 @@ static const Subject subject{
             for (int k = 0; k < count; ++k) {
                 const double q = from + (0.96 - from) * k / (count - 1), side = k % 2 == 0 ? 1 : -1;
                 const Point at = polar(along(c, q), angleAlong(c, q) + side * 70, 5);
-                peaFlower(p, at, angleAlong(c, q) + side * 52, 30 - 6 * q, palettes::yellow,
+                peaFlower(p, at, angleAlong(c, q) + side * 52, 37 - 7 * q, palettes::yellow,
                           side > 0 ? 1 : -1, mix(palettes::yellow, palettes::orange, 0.3));
             }
         };

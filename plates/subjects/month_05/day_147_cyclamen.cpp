@@ -1,7 +1,8 @@
-// Cyclamen: a flat round tuber, marbled heart leaves, nodding flowers whose petals are swept straight up.
+// Cyclamen: a flat round tuber, marbled heart leaves, nodding flowers whose five petals are swept straight up
+// past the crook of the stalk.
 
 #include "plates/engraver/Lathe.h"
-#include "plates/engraver/Sheet.h"
+#include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
 #include "plates/engraver/botany/Leaf.h"
@@ -11,54 +12,65 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_147_cyclamen", [](Plate& p) {
-        rootlets(p, {200, 344}, 18, 90, 150, 20);
-        lathe(p, {200, 344}, 34, {20, 40, 46, 40, 16}, {.palette = palettes::brown});
+        rootlets(p, {200, 346}, 18, 90, 150, 18);
+        lathe(p, {200, 348}, 32, {22, 46, 52, 46, 18}, {.palette = palettes::brown});
         const auto heart = [&](const Path& stalk, double degrees, double size) {
-            stem(p, stalk, {2.4, 2}, palettes::redstem);
+            stem(p, stalk, {2.6, 2.2}, palettes::redstem);
             const Point at = stalk.back();
-            const Path spine{at, polar(at, degrees, size * 0.5), polar(at, degrees, size)};
-            leaf(p, spine,
-                 {.width = size * 0.48,
-                  .shape = shapes::cordate,
-                  .margin = crenate(9, 0.05),
+            leaf(p, {at, polar(at, degrees, size * 0.5), polar(at, degrees, size)},
+                 {.width = size * 0.5,
+                  .shape = {0.1, 0.8, 0.98, 1, 0.95, 0.85, 0.68, 0.4, 0},
+                  .margin = crenate(10, 0.05),
                   .palette = palettes::darkleaf,
-                  .veins = 5});
+                  .veins = 5,
+                  .coverage = 0.3});
             for (const double s : {-1.0, 1.0})
                 for (int k = 0; k < 5; ++k) {
                     const Point c = polar(polar(at, degrees, size * (0.16 + 0.15 * k)), degrees + 90 * s,
-                                          size * (0.25 + 0.04 * k - 0.022 * k * k));
-                    const Path mark = turned(ellipse(c, size * 0.055, size * 0.032), degrees + 24 * s, c);
-                    p.flat(mark, palettes::silver, 0.3);
+                                          size * (0.25 + 0.05 * k - 0.026 * k * k));
+                    p.flat(turned(ellipse(c, size * 0.075, size * 0.045), degrees + 24 * s, c),
+                           palettes::silver, 0.2);
                 }
         };
-        heart({{194, 314}, {160, 290}, {130, 262}}, 168, 88);
-        heart({{206, 314}, {244, 290}, {272, 264}}, 12, 88);
-        heart({{190, 316}, {152, 306}, {124, 304}}, 150, 66);
-        heart({{210, 316}, {246, 308}, {276, 304}}, 30, 66);
-        const auto swept = [&](const Path& stalk, double size, double lean) {
-            stem(p, stalk, {2.8, 2.2, 2}, palettes::redstem);
-            Sheets sheets;
-            const Frame frame(stalk.back(), -10, 90 + lean, 20);
-            for (int k = 0; k < 5; ++k)
-                sheets.petal(frame, k * 72,
-                             {.length = size,
-                              .width = size * 0.25,
-                              .baseAngle = 128,
-                              .tipAngle = 176,
-                              .shape = {0.45, 0.75, 1, 1, 0.8, 0.1},
-                              .cup = 1.6,
-                              .radius = 5,
-                              .offset = 7,
-                              .bending = 0.4},
-                             p.random);
-            sheets.cup(frame, {.length = 13, .radius = 10, .shape = {0.5, 0.9, 1, 0.9}, .palette = 1});
-            sheets.engrave(p,
-                           {.palettes = {Sheets::Style::Tint{mix(palettes::magenta, palettes::crimson, 0.2),
-                                                             mix(palettes::rose, palettes::magenta, 0.3)},
-                                         mix(palettes::magenta, palettes::crimson, 0.5)},
-                            .washLift = 0.06});
+        heart({{194, 318}, {164, 296}, {142, 268}}, -172, 92);
+        heart({{206, 318}, {240, 296}, {260, 268}}, -8, 92);
+        heart({{190, 320}, {160, 312}, {146, 312}}, 166, 78);
+        heart({{210, 320}, {240, 312}, {256, 312}}, 14, 78);
+        const Palette deep = mix(palettes::magenta, palettes::crimson, 0.45);
+        const auto swept = [&](const Path& stalk, Point mouth, double size, int side) {
+            struct PetalAt {
+                double degrees, share, twist;
+            };
+            for (const PetalAt& s : {PetalAt{-160, 0.8, -12}, PetalAt{-20, 0.8, 12}, PetalAt{-92, 1, 5},
+                                     PetalAt{-126, 0.95, -9}, PetalAt{-54, 0.95, 9}}) {
+                const Point from = polar(mouth, s.degrees, 4), out = polar(mouth, s.degrees, size * 0.3);
+                const Point tip = mouth + Point{direction(s.degrees).x * size * 0.5, -size * s.share};
+                leaf(p,
+                     {from, out, lerp(out, tip, 0.55) + Point{s.twist * 0.5, 0}, tip},
+                     {.width = size * 0.125,
+                      .shape = {0.5, 0.72, 0.95, 1, 0.82, 0.45, 0},
+                      .palette = mix(palettes::rose, palettes::magenta, 0.55),
+                      .veins = 0,
+                      .parallel = true,
+                      .contour = 0.8,
+                      .midrib = 0.5});
+            }
+            // The crook comes down in front of the petals to the calyx just above the mouth.
+            Path crook = stalk;
+            crook.push_back(mouth + Point{side * 13.0, -24});
+            crook.push_back(mouth + Point{side * 4.0, -30});
+            crook.push_back(mouth + Point{0, -14});
+            stem(p, crook, {2.8, 2.4, 2}, palettes::redstem);
+            for (const double turn : {-36.0, 0.0, 36.0})
+                leaflet(p, mouth + Point{0, -16}, polar(mouth + Point{0, -16}, 90 + turn, 13),
+                        {.width = 3, .palette = palettes::leaf});
+            const Path rim = closedSpline({mouth + Point{-11, -4}, mouth + Point{0, -8}, mouth + Point{11, -4},
+                                           mouth + Point{8, 5}, mouth + Point{0, 8}, mouth + Point{-8, 5}});
+            p.knockOut(rim);
+            p.flat(rim, deep, 0.66);
+            p.contour(rim, 0.8);
         };
-        swept({{198, 316}, {180, 250}, {150, 170}, {138, 132}, {126, 128}, {120, 140}}, 66, 8);
-        swept({{204, 316}, {226, 250}, {254, 180}, {268, 144}, {280, 140}, {286, 152}}, 62, -8);
-        swept({{200, 316}, {204, 220}, {198, 120}, {204, 96}, {214, 96}, {218, 110}}, 74, 4);
+        swept({{196, 320}, {170, 250}, {140, 200}, {128, 168}}, {112, 168}, 84, 1);
+        swept({{205, 320}, {232, 260}, {264, 214}, {276, 182}}, {292, 184}, 80, -1);
+        swept({{201, 320}, {206, 250}, {220, 190}, {218, 148}}, {202, 142}, 98, 1);
     }};

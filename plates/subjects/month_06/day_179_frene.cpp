@@ -1,34 +1,60 @@
-// Ash, Fraxinus excelsior: pinnate leaves, a hanging bunch of winged keys, black velvety buds.
+// Ash, Fraxinus excelsior: pinnate leaves, a dense hanging bunch of tongue-shaped keys, black velvety buds.
 
+#include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
 #include "plates/engraver/botany/Branch.h"
 #include "plates/engraver/botany/CompoundLeaf.h"
+#include "plates/engraver/botany/Leaf.h"
 
 using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_179_frene", [](Plate& p) {
-        const Path curve = twig(p, {{84, 84}, {150, 70}, {210, 78}, {262, 64}}, {6, 5, 4.4});
+        const Path curve = twig(p, {{92, 92}, {150, 74}, {214, 80}, {268, 62}}, {6.4, 5.4, 4.6});
         const LeafKind pinnate{.build = LeafKind::Build::pinnate,
                                .shape = shapes::lance,
                                .margin = serrate(8, 0.12),
                                .veins = 6,
-                               .petiole = 0.16,
+                               .petiole = 0.14,
                                .leaflets = 4,
-                               .leafletWidth = 0.17};
-        growLeaf(p, along(curve, 0.1), 112, 208, 42, pinnate, -12);
-        growLeaf(p, along(curve, 0.94), 58, 214, 42, pinnate, 14);
-        const Point knot{196, 112};
-        stem(p, {along(curve, 0.6), knot}, {2.4, 2});
-        for (int k = 0; k < 11; ++k) {
-            const double x = (k % 6 - 2.5) * 14 + (k > 5 ? 7 : 0), y = k > 5 ? 44.0 : 16.0;
-            const Point at = knot + Point{x * 0.8, y};
-            stem(p, {knot, lerp(knot, at, 0.6) + Point{x * 0.1, 0}, at}, {1.2, 1});
-            samara(p, at, 90 - x * 0.4, 68, 9, palettes::oldleaf);
+                               .leafletWidth = 0.18};
+        growLeaf(p, along(curve, 0.06), 116, 214, 40, pinnate, -14);
+        growLeaf(p, along(curve, 0.96), 56, 222, 40, pinnate, 16);
+        // Keys: the seed in the slender upper end, the wing a tongue below it.
+        const auto key = [&](Point from, double degrees, double size, double bend) {
+            const Point mid = polar(from, degrees, size * 0.5) + rightOf(direction(degrees)) * bend;
+            leaf(p, {from, mid, polar(from, degrees, size)},
+                 {.width = size * 0.13,
+                  .shape = {0.34, 0.62, 0.62, 0.9, 1, 0.92, 0},
+                  .palette = mix(palettes::oldleaf, palettes::straw, 0.35),
+                  .veins = 0,
+                  .parallel = true,
+                  .tone = p.random.around(0.06),
+                  .contour = 0.75,
+                  .midrib = 0.5});
+            leaflet(p, from, polar(from, degrees, size * 0.4),
+                    {.width = size * 0.05, .palette = palettes::brown, .shape = shapes::elliptic, .tone = 0.2});
+        };
+        const Path axis = spline({along(curve, 0.58), {196, 120}, {202, 170}, {198, 214}});
+        struct Key {
+            double from, sideways, degrees, size;
+        };
+        std::vector<Key> keys;
+        for (int k = 0; k < 26; ++k) {
+            const double t = k / 25.0, sideways = (k * 5 % 26 - 12.5) * 3.2;
+            keys.push_back({0.94 - 0.62 * t, sideways, 90 - sideways * 0.62 + p.random.around(6),
+                            p.random.uniform(66, 80)});
         }
-        bud(p, curve.back(), -14, 24, palettes::black);
-        bud(p, polar(curve.back(), 160, 8), -62, 15, palettes::black);
-        bud(p, polar(curve.back(), 160, 8), 50, 15, palettes::black);
-        bud(p, along(curve, 0.38), -70, 14, palettes::black);
+        for (const Key& k : keys) {
+            const Point at = along(axis, k.from), to = at + Point{k.sideways, 12};
+            p.stroke(spline({at, lerp(at, to, 0.6) + Point{0, -4}, to}),
+                     {.width = 1.3, .swell = 0, .fade = 0});
+            key(to, k.degrees, k.size, k.sideways * 0.06);
+        }
+        stem(p, {along(curve, 0.58), {197, 112}, {199, 134}}, {2.8, 2.2});
+        bud(p, curve.back(), -16, 32, palettes::black);
+        bud(p, polar(curve.back(), 160, 9), -64, 20, palettes::black);
+        bud(p, polar(curve.back(), 160, 9), 46, 18, palettes::black);
+        bud(p, along(curve, 0.36), -72, 20, palettes::black);
     }};

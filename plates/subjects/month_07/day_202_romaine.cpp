@@ -1,35 +1,51 @@
-// Romaine lettuce, Lactuca sativa var. longifolia: a tall head of upright spoon-shaped leaves, tied round
-// with bast.
+// Romaine lettuce, Lactuca sativa var. longifolia: a tall head of upright spoon-shaped leaves with broad pale
+// ribs, tied round with bast.
 
 #include "plates/engraver/Ground.h"
+#include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
-#include "plates/engraver/botany/LeafHead.h"
+#include "plates/engraver/botany/Leaf.h"
 
 using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_202_romaine", [](Plate& p) {
-        ground(p, 130, 270, 321, 5);
-        leafHead(p, {200, 330},
-                 {.leaves = 20,
-                  .innerLength = 200,
-                  .outerLength = 236,
-                  .innerWidth = 34,
-                  .outerWidth = 48,
-                  .innerBase = 2,
-                  .innerTip = -4,
-                  .outerBase = 22,
-                  .outerTip = 6,
-                  .shape = {0.42, 0.5, 0.68, 0.92, 1, 0.86, 0},
-                  .cup = 1.1,
-                  .curl = 16,
-                  .ruffle = 3.5,
-                  .palette = mix(palettes::leafy, palettes::cream, 0.15),
-                  .rib = 0.3,
-                  .pucker = 0.1,
-                  .tilt = 12});
-        for (const double y : {206.0, 213.0})
-            tube(p, {{136, y - 6}, {166, y + 5}, {200, y + 8}, {234, y + 5}, {264, y - 6}}, 3,
+        ground(p, 120, 280, 340, 5);
+        struct Blade {
+            double foot, lean, curl, size, width;
+            bool pale;
+        };
+        // From the back and the heart forward to the outer leaves.
+        for (const Blade& b : {Blade{-6, -5, -4, 296, 50, true}, Blade{8, 6, 6, 292, 50, true},
+                               Blade{-14, -13, -10, 282, 50, true}, Blade{16, 14, 10, 280, 50, true},
+                               Blade{-24, -23, -30, 268, 48, false}, Blade{26, 24, 30, 264, 48, false},
+                               Blade{2, 1, 4, 256, 58, true}, Blade{-24, -13, -18, 238, 52, false},
+                               Blade{26, 14, 18, 232, 52, false}, Blade{0, -1, -4, 206, 54, false}}) {
+            const Point foot{200 + b.foot * 0.7, 338 - std::fabs(b.foot) * 0.2};
+            const double way = -90 + b.lean * 0.5;
+            const Point tip = polar(foot, way, b.size) + Point{b.curl * 0.4, 0};
+            const Path spine{foot, polar(foot, way, b.size * 0.36), polar(foot, way, b.size * 0.74), tip};
+            const Palette green = b.pale ? mix(palettes::leafy, palettes::cream, 0.25) : palettes::leaf;
+            leaf(p, spine,
+                 {.width = b.width,
+                  .shape = {0.42, 0.42, 0.5, 0.66, 0.86, 0.98, 1, 0.94, 0.66, 0},
+                  .margin = wavy(9, 0.06),
+                  .palette = green,
+                  .veins = 8,
+                  .slant = 0.2,
+                  .midrib = 0,
+                  .coverage = 0.36,
+                  .pucker = 0.34});
+            const Path rib = spline(spine);
+            tube(p, {along(rib, 0.02), along(rib, 0.4), along(rib, 0.86)}, {b.width * 0.24, b.width * 0.13, 1},
+                 {.palette = mix(palettes::cream, palettes::leafy, 0.25),
+                  .lines = Lines::along,
+                  .spacing = 3,
+                  .contour = 0.55,
+                  .shade = 0.1});
+        }
+        for (const double y : {232.0, 239.0})
+            tube(p, {{144, y - 10}, {170, y + 1}, {200, y + 5}, {232, y + 1}, {258, y - 10}}, 3.4,
                  {.palette = palettes::straw, .spacing = 2.4});
     }};

@@ -35,7 +35,7 @@ static const Subject subject{
         node(0.88, -28, 66);
         const auto pea = [&](Point from, Point at, int side) {
             stem(p, {from, lerp(from, at, 0.5) + Point{0, 4}, at}, {1.2, 1});
-            peaFlower(p, at, side > 0 ? -20 : -160, 34, palettes::whiteflower, side, palettes::whiteflower);
+            peaFlower(p, at, side > 0 ? -20 : -160, 46, palettes::whiteflower, side, palettes::whiteflower);
         };
         pea(along(vine, 0.64), {232, 150}, 1);
         pea(along(vine, 0.86), {172, 70}, -1);

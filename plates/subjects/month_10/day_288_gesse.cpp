@@ -15,10 +15,10 @@ static const Subject subject{
         for (const double x : {-5.0, 5.0}) {
             Path wing;
             for (const Point& q : main)
-                wing.push_back(q + Point{x, 0});
-            tube(p, wing, {3.2, 2.8, 1.8}, {.palette = palettes::leafy, .lines = Lines::along});
+                wing.push_back(q + Point{x * (0.2 + 0.8 * (q.y - 60) / 290), 0});
+            tube(p, wing, {0.6, 3.4, 3.2, 3, 1}, {.palette = palettes::leafy, .lines = Lines::along});
         }
-        const Path curve = stem(p, main, {3.2, 2.4, 1.6});
+        const Path curve = stem(p, main, {1.6, 3, 2.6, 2.2, 1.4});
         const auto pinnate = [&](double q, double degrees, double size) {
             const Point at = along(curve, q), fork = polar(at, degrees, size * 0.3);
             const int side = degrees < -90 ? -1 : 1;
@@ -44,7 +44,7 @@ static const Subject subject{
                 stem(p, {along(curve, q), lerp(along(curve, q), tip, 0.5) + Point{0, 8}, tip}, {2.2, 1.6});
             for (const double t : {0.62, 1.0})
                 peaFlower(p, polar(along(stalk, t), t < 0.9 ? -90 : (side > 0 ? 10 : 170), 9),
-                          side > 0 ? -40 : -140, 46, mix(palettes::magenta, palettes::purple, 0.3), side,
+                          side > 0 ? -40 : -140, 62, mix(palettes::magenta, palettes::purple, 0.3), side,
                           palettes::magenta);
         };
         truss(0.56, {306, 128}, 1);

@@ -31,7 +31,7 @@ static const Subject subject{
                 const double way = side > 0 ? lift - 12 : -168 - lift;
                 const Point at = along(curve, q), to = polar(at, way, 20);
                 stem(p, {at, lerp(at, to, 0.5), to}, {1.7, 1.5});
-                peaFlower(p, to, side > 0 ? -34 : -146, 42, mix(palettes::purple, palettes::magenta, 0.5),
+                peaFlower(p, to, side > 0 ? -34 : -146, 54, mix(palettes::purple, palettes::magenta, 0.5),
                           side, palettes::crimson);
             }
         for (const auto& [q, side] : {std::tuple{0.26, -1}, {0.1, 1}}) {

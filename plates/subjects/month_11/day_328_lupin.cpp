@@ -24,18 +24,18 @@ static const Subject subject{
                  .leaves = 6,
                  .leavesFrom = 0.1,
                  .leavesTo = 0.44,
-                 .leafLength = 132,
+                 .leafLength = 118,
                  .topLeafLength = 96,
                  .leafWidth = 10,
                  .topLeafWidth = 8,
                  .leafAngle = 62,
                  .root = RootKind::fibrous,
-                 .inflorescence = raceme({.flower = peas(25, mix(palettes::blue, palettes::violet, 0.35)),
-                                          .nodes = 11,
+                 .inflorescence = raceme({.flower = peas(36, mix(palettes::blue, palettes::violet, 0.35)),
+                                          .nodes = 10,
                                           .from = 0.44,
                                           .to = 1,
                                           .perNode = 4,
                                           .angle = 74,
-                                          .pedicel = 7,
-                                          .smallest = 0.4})});
+                                          .pedicel = 9,
+                                          .smallest = 0.36})});
     }};

@@ -1,10 +1,11 @@
-// Dogbane, Apocynum: opposite oblong leaves, cymes of small pink bells, long paired pods, one splitting on
-// its silk.
+// Dogbane, Apocynum: opposite oblong leaves on red stems, cymes of small pink bells, long paired pods, one split
+// and letting go its seeds with tufts of silk.
 
 #include "plates/engraver/Lathe.h"
+#include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
-#include "plates/engraver/botany/Herb.h"
+#include "plates/engraver/botany/CompoundLeaf.h"
 #include "plates/engraver/botany/Inflorescence.h"
 #include "plates/engraver/botany/Leaf.h"
 #include "plates/engraver/botany/Pod.h"
@@ -13,43 +14,51 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_338_apocyn", [](Plate& p) {
-        herb(p, {.foot = {176, 346},
-                 .height = 272,
-                 .stems = {-54, 0},
-                 .stemRadius = 2.8,
-                 .stemPalette = palettes::redstem,
-                 .leaf = {.shape = shapes::elliptic, .veins = 7, .petiole = 0.06},
-                 .arrangement = Arrangement::opposite,
-                 .leaves = 5,
-                 .leavesFrom = 0.14,
-                 .leavesTo = 0.8,
-                 .leafLength = 78,
-                 .topLeafLength = 46,
-                 .leafWidth = 18,
-                 .topLeafWidth = 12,
-                 .leafAngle = 62,
-                 .root = RootKind::rhizome,
-                 .inflorescence = corymb({.flower = bells({.length = 17,
-                                                           .radius = 8,
-                                                           .lobes = 5,
-                                                           .palette = palettes::rose,
-                                                           .tilt = 30,
-                                                           .sepals = 5}),
-                                          .count = 9,
-                                          .spread = 150,
-                                          .length = 30})});
-        for (int k = 0; k < 34; ++k) {
-            const Point from{304 + p.random.around(3), 190 + k * 2.4};
-            const double a = -30 + k * 2.2 + p.random.around(12);
-            p.stroke(spline({from, polar(from, a, 17), polar(from, a - 10, 34)}),
-                     {.width = 0.65, .swell = 0, .fade = 0.6});
-            if (k % 4 == 0)
-                ball(p, from + Point{1, 1}, 2.8,
-                     {.palette = palettes::brown, .direction = 90, .squash = 1.6});
-        }
-        stem(p, {{186, 190}, {226, 140}, {262, 128}, {276, 142}}, {1.8, 1.6}, palettes::redstem);
-        pod(p, {{275, 138}, {300, 196}, {298, 262}, {284, 318}},
-            {.width = 6, .seeds = 0, .open = false, .palette = palettes::fawn});
-        pod(p, {{275, 138}, {262, 196}, {250, 262}, {256, 322}},
-            {.width = 5.4, .seeds = 0, .open = false, .palette = palettes::leafy});
+        const LeafKind blade{.shape = shapes::elliptic, .veins = 7, .petiole = 0.06};
+        const Path main{{150, 352}, {158, 270}, {148, 180}, {156, 96}};
+        const Path curve = spline(main);
+        for (int k = 0; k < 5; ++k)
+            for (const double side : {-1.0, 1.0})
+                growLeaf(p, along(curve, 0.1 + 0.18 * k), -90 + side * (66 - 5 * k), 92 - 8.0 * k,
+                         20 - 1.6 * k, blade, side * 14);
+        // Twin pods hang from one stalk.
+        const Point fork{268, 112};
+        stem(p, {along(curve, 0.8), {206, 104}, {248, 92}, fork}, {2.4, 2.2}, palettes::redstem);
+        const Path split{fork, {300, 170}, {312, 240}, {300, 330}};
+        const Path slit = spline(split);
+        const auto seed = [&](Point at, double degrees, double size) {
+            for (int k = -6; k <= 6; ++k) {
+                const double a = degrees + k * 7.0 + p.random.around(3);
+                p.stroke(spline({at, polar(at, a - k, size * 0.55), polar(at, a + k * 1.2, size)}),
+                         {.width = 0.55, .swell = 0, .fade = 0.5, .wobble = 0});
+            }
+            leaflet(p, polar(at, degrees, 2), polar(at, degrees + 180, 13),
+                    {.width = 3, .palette = palettes::brown, .shape = shapes::elliptic, .tone = 0.3});
+        };
+        leaf(p, split,
+             {.width = 11,
+              .shape = {0.3, 0.7, 1, 1, 0.9, 0.6, 0},
+              .palette = palettes::fawn,
+              .veins = 0,
+              .parallel = true});
+        leaf(p, {along(slit, 0.2), along(slit, 0.5), along(slit, 0.85)},
+             {.width = 6, .shape = shapes::elliptic, .palette = palettes::cream, .veins = 0, .parallel = true});
+        for (int k = 0; k < 7; ++k)
+            leaflet(p, along(slit, 0.76 - 0.08 * k), along(slit, 0.86 - 0.08 * k),
+                    {.width = 3, .palette = palettes::brown, .shape = shapes::elliptic, .tone = 0.3});
+        for (const auto& [q, x, y, a, size] : {std::tuple{0.3, 24.0, -6.0, -62.0, 44.0},
+                                               {0.46, 26.0, 6.0, -34.0, 46.0},
+                                               {0.62, 24.0, 22.0, -8.0, 44.0}})
+            seed(along(slit, q) + Point{x, y}, a, size);
+        seed({338, 84}, -50, 46);
+        pod(p, {fork, {256, 176}, {240, 250}, {246, 330}},
+            {.width = 7.5, .seeds = 0, .open = false, .palette = palettes::leafy});
+        stem(p, main, {3.4, 2.8, 2}, palettes::redstem);
+        const FlowerAt little = bells({.length = 22,
+                                       .radius = 10,
+                                       .lobes = 5,
+                                       .palette = palettes::rose,
+                                       .tilt = 32,
+                                       .sepals = 5});
+        corymb({.flower = little, .count = 9, .spread = 180, .length = 40, .stalk = palettes::redstem})(p, curve);
     }};
