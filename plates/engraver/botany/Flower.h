@@ -71,9 +71,9 @@ struct BellForm {
 };
 void bell(Plate& plate, Point at, double degrees, const BellForm& form, double scale = 1);
 
-/// Pea flower from its side, base (calyx) at `at`: the standard rises across the axis, wings and keel lie along
-/// it. `size` is the standard's height and the wings' length; seen with the axis to the right, `side` +1 has the
-/// standard above, -1 below.
+/// Pea flower from its side, base (calyx) at `at`: the standard rises across the axis, wings and keel lie
+/// along it. `size` is the standard's height and the wings' length; seen with the axis to the right, `side`
+/// +1 has the standard above, -1 below.
 void peaFlower(Plate& plate, Point at, double degrees, double size, const Palette& palette, int side = 1,
                std::optional<Palette> wings = std::nullopt);
 /// Two-lipped flower of the mint kin in its calyx.

@@ -66,13 +66,8 @@ void peaFlower(Plate& plate, Point base, double degrees, double size, const Pale
     plate.stroke(spline({at(0.29, 0.10), at(0.36, 0.5), at(0.39, 0.93)}),
                  {.width = line, .swell = 0.1, .fade = 0.5});
     // The keel: a pale boat whose beak rises beyond the wings.
-    const Path keel = at.outline({{0.22, 0.0},
-                                  {0.40, -0.24},
-                                  {0.68, -0.34},
-                                  {0.94, -0.22},
-                                  {1.06, 0.08},
-                                  {0.92, 0.02},
-                                  {0.60, 0.02}});
+    const Path keel = at.outline(
+        {{0.22, 0.0}, {0.40, -0.24}, {0.68, -0.34}, {0.94, -0.22}, {1.06, 0.08}, {0.92, 0.02}, {0.60, 0.02}});
     petal(plate, at(0.3, -0.04), keel, mix(wing, palettes::whiteflower, 0.7), 0.3, 0.12, size);
     plate.contour(keel, line);
     // The wings lie on the keel's flanks; of two, the farther shows as a rim above.

@@ -20,7 +20,8 @@ static const Subject subject{
                             .veins = 7,
                             .pucker = 0.22,
                             .petiole = 0.12},
-                   .leaves = {{0.1, 112, 124, 46}, {0.34, -122, 76, 29}, {0.7, -54, 74, 28}, {0.88, 66, 124, 46}}});
+                   .leaves = {
+                       {0.1, 112, 124, 46}, {0.34, -122, 76, 29}, {0.7, -54, 74, 28}, {0.88, 66, 124, 46}}});
         const auto fringe = [&](Point mouth, double degrees, double breadth, double size) {
             for (const int k : {-3, 3, -2, 2, -1, 1, 0}) {
                 const double f = k / 3.0;

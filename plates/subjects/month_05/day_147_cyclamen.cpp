@@ -45,8 +45,7 @@ static const Subject subject{
                                      PetalAt{-126, 0.95, -9}, PetalAt{-54, 0.95, 9}}) {
                 const Point from = polar(mouth, s.degrees, 4), out = polar(mouth, s.degrees, size * 0.3);
                 const Point tip = mouth + Point{direction(s.degrees).x * size * 0.5, -size * s.share};
-                leaf(p,
-                     {from, out, lerp(out, tip, 0.55) + Point{s.twist * 0.5, 0}, tip},
+                leaf(p, {from, out, lerp(out, tip, 0.55) + Point{s.twist * 0.5, 0}, tip},
                      {.width = size * 0.125,
                       .shape = {0.5, 0.72, 0.95, 1, 0.82, 0.45, 0},
                       .palette = mix(palettes::rose, palettes::magenta, 0.55),
@@ -64,8 +63,9 @@ static const Subject subject{
             for (const double turn : {-36.0, 0.0, 36.0})
                 leaflet(p, mouth + Point{0, -16}, polar(mouth + Point{0, -16}, 90 + turn, 13),
                         {.width = 3, .palette = palettes::leaf});
-            const Path rim = closedSpline({mouth + Point{-11, -4}, mouth + Point{0, -8}, mouth + Point{11, -4},
-                                           mouth + Point{8, 5}, mouth + Point{0, 8}, mouth + Point{-8, 5}});
+            const Path rim =
+                closedSpline({mouth + Point{-11, -4}, mouth + Point{0, -8}, mouth + Point{11, -4},
+                              mouth + Point{8, 5}, mouth + Point{0, 8}, mouth + Point{-8, 5}});
             p.knockOut(rim);
             p.flat(rim, deep, 0.66);
             p.contour(rim, 0.8);

@@ -1,5 +1,5 @@
-// Fumitory, Fumaria officinalis: weak branching stems, finely cut bluish leaves, loose racemes of pink spurred
-// tubes with dark tips.
+// Fumitory, Fumaria officinalis: weak branching stems, finely cut bluish leaves, loose racemes of pink
+// spurred tubes with dark tips.
 
 #include "plates/engraver/Lathe.h"
 #include "plates/engraver/Path.h"
@@ -22,8 +22,9 @@ static const Subject subject{
                  {.palette = pink, .lines = Lines::along, .spacing = 1.8});
             ball(p, at - d * (9 * s) + up * (2 * s), 5.2 * s, {.palette = pink, .lines = Lines::none});
             for (const double turn : {-20.0, 20.0})
-                leaflet(p, at + d * (15 * s), polar(at + d * (15 * s), degrees + turn, 13 * s),
-                        {.width = 4 * s, .palette = palettes::crimson, .shape = shapes::elliptic, .tone = 0.3});
+                leaflet(
+                    p, at + d * (15 * s), polar(at + d * (15 * s), degrees + turn, 13 * s),
+                    {.width = 4 * s, .palette = palettes::crimson, .shape = shapes::elliptic, .tone = 0.3});
             leaflet(p, at - up * (3 * s), at - up * (5 * s) + d * (9 * s),
                     {.width = 2.2 * s, .palette = palettes::leafy});
         };
@@ -39,7 +40,8 @@ static const Subject subject{
                 growLeaf(p, along(curve, q), degrees, 104 * size, 25 * size, cut, degrees < -90 ? -14 : 14);
             stem(p, spine, {3, 2.4, 1.4}, palettes::bluegreen);
             for (int k = flowers - 1; k >= 0; --k) {
-                const double t = k / static_cast<double>(flowers - 1), q = flowersFrom + (1 - flowersFrom) * t;
+                const double t = k / static_cast<double>(flowers - 1),
+                             q = flowersFrom + (1 - flowersFrom) * t;
                 const double side = k % 2 == 0 ? 1 : -1, s = size * (1.2 - 0.55 * t);
                 const double out = angleAlong(curve, q) + side * (62 - 34 * t) + p.random.around(9);
                 const Point at = along(curve, q), to = polar(at, out, 15 * s);

@@ -33,8 +33,9 @@ static const Subject subject{
                   .tone = p.random.around(0.06),
                   .contour = 0.75,
                   .midrib = 0.5});
-            leaflet(p, from, polar(from, degrees, size * 0.4),
-                    {.width = size * 0.05, .palette = palettes::brown, .shape = shapes::elliptic, .tone = 0.2});
+            leaflet(
+                p, from, polar(from, degrees, size * 0.4),
+                {.width = size * 0.05, .palette = palettes::brown, .shape = shapes::elliptic, .tone = 0.2});
         };
         const Path axis = spline({along(curve, 0.58), {196, 120}, {202, 170}, {198, 214}});
         struct Key {

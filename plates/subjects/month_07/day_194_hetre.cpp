@@ -1,5 +1,5 @@
-// Beech, Fagus sylvatica: wavy leaves with a fringe of hairs, a bristly husk open in four valves on two three-
-// edged nuts.
+// Beech, Fagus sylvatica: wavy leaves with a fringe of hairs, a bristly husk open in four valves on two
+// three- edged nuts.
 
 #include "plates/engraver/Ground.h"
 #include "plates/engraver/Path.h"
@@ -23,10 +23,10 @@ static const Subject subject{
         const Point heart{200, 206};
         const auto beechnut = [&](Point base, double degrees, double size) {
             const Point tip = polar(base, degrees, size), side = rightOf(direction(degrees)) * (size * 0.34);
-            const Path outline = closedSpline({base, lerp(base, tip, 0.2) + side * 0.8,
-                                               lerp(base, tip, 0.46) + side, tip, lerp(base, tip, 0.46) - side,
-                                               lerp(base, tip, 0.2) - side * 0.8},
-                                              8);
+            const Path outline =
+                closedSpline({base, lerp(base, tip, 0.2) + side * 0.8, lerp(base, tip, 0.46) + side, tip,
+                              lerp(base, tip, 0.46) - side, lerp(base, tip, 0.2) - side * 0.8},
+                             8);
             p.knockOut(outline);
             p.flat(outline, palettes::chestnut, 0.36);
             const Point ridge = lerp(base, tip, 0.5) + side * 0.12;
@@ -41,9 +41,10 @@ static const Subject subject{
             const Path spine{heart, lerp(heart, tip, 0.5), tip};
             for (int k = 0; k < 40; ++k) {
                 const double t = 0.16 + 0.84 * (k / 2) / 19.0, side = k % 2 == 0 ? 1 : -1;
-                const Point from = lerp(heart, tip, t) + rightOf(direction(degrees)) *
-                                                             (side * width * 0.96 *
-                                                              maths::sin(maths::pi * std::min(0.25 + 0.72 * t, 1.0)));
+                const Point from =
+                    lerp(heart, tip, t) +
+                    rightOf(direction(degrees)) *
+                        (side * width * 0.96 * maths::sin(maths::pi * std::min(0.25 + 0.72 * t, 1.0)));
                 const double out = degrees + side * (76 - 50 * t);
                 p.stroke(spline({from, polar(from, out, 6), polar(from, out - side * 26, 12)}),
                          {.width = 1.1, .swell = 0, .fade = 0.7});

@@ -1,5 +1,5 @@
-// Larch, Larix decidua: soft bright needles in rosettes on short knobs, small round-scaled cones that stand on
-// the twig.
+// Larch, Larix decidua: soft bright needles in rosettes on short knobs, small round-scaled cones that stand
+// on the twig.
 
 #include "plates/engraver/Lathe.h"
 #include "plates/engraver/Path.h"
@@ -31,7 +31,8 @@ static const Subject subject{
         const Path main{{50, 276}, {136, 238}, {232, 214}, {350, 140}};
         const Path side{{158, 232}, {196, 170}, {250, 118}, {290, 62}};
         const Path bough = spline(main), shoot = spline(side);
-        for (const auto& [q, up] : {std::pair{0.12, 1}, {0.26, -1}, {0.52, -1}, {0.66, -1}, {0.82, 1}, {0.9, -1}})
+        for (const auto& [q, up] :
+             {std::pair{0.12, 1}, {0.26, -1}, {0.52, -1}, {0.66, -1}, {0.82, 1}, {0.9, -1}})
             rosette(polar(along(bough, q), angleAlong(bough, q) - 90 * up, 8), angleAlong(bough, q) - 90 * up,
                     40);
         for (const auto& [q, up] : {std::pair{0.34, 1}, {0.62, -1}, {0.86, 1}})

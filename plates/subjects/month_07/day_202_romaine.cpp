@@ -38,7 +38,8 @@ static const Subject subject{
                   .coverage = 0.36,
                   .pucker = 0.34});
             const Path rib = spline(spine);
-            tube(p, {along(rib, 0.02), along(rib, 0.4), along(rib, 0.86)}, {b.width * 0.24, b.width * 0.13, 1},
+            tube(p, {along(rib, 0.02), along(rib, 0.4), along(rib, 0.86)},
+                 {b.width * 0.24, b.width * 0.13, 1},
                  {.palette = mix(palettes::cream, palettes::leafy, 0.25),
                   .lines = Lines::along,
                   .spacing = 3,

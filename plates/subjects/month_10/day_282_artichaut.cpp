@@ -34,8 +34,7 @@ static const Subject subject{
                 const Point base{foot.x + x * radius * 0.82, y + 10 * front * (1 - t)};
                 const double way = -90 + x * (46 - 34 * t), reach = (62 - 12 * t) * (0.8 + 0.2 * front);
                 const Point tip = polar(base, way, reach);
-                leaf(p,
-                     {base, polar(base, way + x * 20, reach * 0.55), tip},
+                leaf(p, {base, polar(base, way + x * 20, reach * 0.55), tip},
                      {.width = (27 - 7 * t) * (0.5 + 0.5 * front),
                       .shape = {0.85, 1, 1, 0.86, 0.52, 0},
                       .palette = mix(mix(palettes::leaf, palettes::greygreen, 0.25), palettes::purple,

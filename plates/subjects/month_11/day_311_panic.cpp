@@ -1,5 +1,5 @@
-// Panic grass, Panicum: a wide airy panicle whose hair-fine branches part and part again, with one small grain
-// at each end; broad leaves that clasp the stem.
+// Panic grass, Panicum: a wide airy panicle whose hair-fine branches part and part again, with one small
+// grain at each end; broad leaves that clasp the stem.
 
 #include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"

@@ -1,5 +1,5 @@
-// Apricot, Prunus armeniaca: round heart-based leaves, velvety orange globes with a seam and a red cheek; a half
-// with its smooth keeled stone.
+// Apricot, Prunus armeniaca: round heart-based leaves, velvety orange globes with a seam and a red cheek; a
+// half with its smooth keeled stone.
 
 #include "plates/engraver/Ground.h"
 #include "plates/engraver/Lathe.h"
@@ -28,16 +28,12 @@ static const Subject subject{
             stem(p, {from, lerp(from, centre + Point{0, -r}, 0.6), centre + Point{0, -r * 0.86}}, {2.6, 2.4},
                  palettes::bark);
             // The outline is drawn in at the stalk, where the seam runs into the dimple.
-            const Path outline = closedSpline({centre + Point{r * 0.06, -r * 0.86},
-                                               centre + Point{r * 0.44, -r * 0.96},
-                                               centre + Point{r * 0.9, -r * 0.5},
-                                               centre + Point{r, r * 0.06},
-                                               centre + Point{r * 0.76, r * 0.68},
-                                               centre + Point{r * 0.1, r},
-                                               centre + Point{-r * 0.6, r * 0.82},
-                                               centre + Point{-r * 0.98, r * 0.24},
-                                               centre + Point{-r * 0.92, -r * 0.46},
-                                               centre + Point{-r * 0.4, -r * 0.96}});
+            const Path outline =
+                closedSpline({centre + Point{r * 0.06, -r * 0.86}, centre + Point{r * 0.44, -r * 0.96},
+                              centre + Point{r * 0.9, -r * 0.5}, centre + Point{r, r * 0.06},
+                              centre + Point{r * 0.76, r * 0.68}, centre + Point{r * 0.1, r},
+                              centre + Point{-r * 0.6, r * 0.82}, centre + Point{-r * 0.98, r * 0.24},
+                              centre + Point{-r * 0.92, -r * 0.46}, centre + Point{-r * 0.4, -r * 0.96}});
             const auto seam = [=](double y) { return centre.x + r * 0.5 * (0.1 - (y * y - 0.7)); };
             relief(p, outline,
                    {.palette = skin,
@@ -76,8 +72,9 @@ static const Subject subject{
         p.flat(ellipse(c + Point{2, 3}, 50, 44, 60), Colour(0xF4B45A), 0.6);
         for (int k = 0; k < 44; ++k) {
             const Point d = direction(k * 360.0 / 44);
-            p.stroke({c + Point{d.x * 38, d.y * 33}, c + Point{d.x * (48 + k % 3 * 2), d.y * (43 + k % 3 * 2)}},
-                     {.width = 0.6, .swell = 0.3, .fade = 0.5});
+            p.stroke(
+                {c + Point{d.x * 38, d.y * 33}, c + Point{d.x * (48 + k % 3 * 2), d.y * (43 + k % 3 * 2)}},
+                {.width = 0.6, .swell = 0.3, .fade = 0.5});
         }
         p.contour(half, 1);
         const Path stone =

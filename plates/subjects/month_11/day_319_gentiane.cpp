@@ -14,13 +14,15 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_319_gentiane", [](Plate& p) {
         const Palette deep = mix(palettes::blue, palettes::violet, 0.2);
-        const LeafKind blade{.shape = {0.5, 0.85, 1, 0.9, 0.6, 0},
-                             .parallel = true,
-                             .petiole = 0,
-                             .palette = palettes::leaf};
+        const LeafKind blade{
+            .shape = {0.5, 0.85, 1, 0.9, 0.6, 0}, .parallel = true, .petiole = 0, .palette = palettes::leaf};
         rootlets(p, {200, 326}, 12, 90, 110, 30);
-        for (const auto& [degrees, size] : {std::pair{-172.0, 112.0}, {-8.0, 112.0}, {-152.0, 104.0},
-                                            {-28.0, 104.0}, {164.0, 92.0}, {16.0, 92.0}})
+        for (const auto& [degrees, size] : {std::pair{-172.0, 112.0},
+                                            {-8.0, 112.0},
+                                            {-152.0, 104.0},
+                                            {-28.0, 104.0},
+                                            {164.0, 92.0},
+                                            {16.0, 92.0}})
             growLeaf(p, {200, 318}, degrees, size, 19, blade, degrees < -90 || degrees > 90 ? 10 : -10);
         const auto trumpet = [&](const Path& stalk, double degrees, double size) {
             const Path curve = stem(p, stalk, {3.4, 3});

@@ -1,5 +1,5 @@
-// Winter barley, two-row, Hordeum distichon: a flat ear of two ranks of plump grains, seen on its face, each with
-// a long stiff awn; two grains stand at each joint (cut across, below).
+// Winter barley, two-row, Hordeum distichon: a flat ear of two ranks of plump grains, seen on its face, each
+// with a long stiff awn; two grains stand at each joint (cut across, below).
 
 #include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"

@@ -1,5 +1,5 @@
-// Dogbane, Apocynum: opposite oblong leaves on red stems, cymes of small pink bells, long paired pods, one split
-// and letting go its seeds with tufts of silk.
+// Dogbane, Apocynum: opposite oblong leaves on red stems, cymes of small pink bells, long paired pods, one
+// split and letting go its seeds with tufts of silk.
 
 #include "plates/engraver/Lathe.h"
 #include "plates/engraver/Path.h"
@@ -42,7 +42,11 @@ static const Subject subject{
               .veins = 0,
               .parallel = true});
         leaf(p, {along(slit, 0.2), along(slit, 0.5), along(slit, 0.85)},
-             {.width = 6, .shape = shapes::elliptic, .palette = palettes::cream, .veins = 0, .parallel = true});
+             {.width = 6,
+              .shape = shapes::elliptic,
+              .palette = palettes::cream,
+              .veins = 0,
+              .parallel = true});
         for (int k = 0; k < 7; ++k)
             leaflet(p, along(slit, 0.76 - 0.08 * k), along(slit, 0.86 - 0.08 * k),
                     {.width = 3, .palette = palettes::brown, .shape = shapes::elliptic, .tone = 0.3});
@@ -54,11 +58,8 @@ static const Subject subject{
         pod(p, {fork, {256, 176}, {240, 250}, {246, 330}},
             {.width = 7.5, .seeds = 0, .open = false, .palette = palettes::leafy});
         stem(p, main, {3.4, 2.8, 2}, palettes::redstem);
-        const FlowerAt little = bells({.length = 22,
-                                       .radius = 10,
-                                       .lobes = 5,
-                                       .palette = palettes::rose,
-                                       .tilt = 32,
-                                       .sepals = 5});
-        corymb({.flower = little, .count = 9, .spread = 180, .length = 40, .stalk = palettes::redstem})(p, curve);
+        const FlowerAt little = bells(
+            {.length = 22, .radius = 10, .lobes = 5, .palette = palettes::rose, .tilt = 32, .sepals = 5});
+        corymb({.flower = little, .count = 9, .spread = 180, .length = 40, .stalk = palettes::redstem})(
+            p, curve);
     }};
