@@ -1,8 +1,7 @@
-// Curled endive, Cichorium endivia: a flat rosette of narrow leaves cut into frizzy fringes, pale at the
-// heart.
+// Curled endive, Cichorium endivia: a flat rosette of narrow leaves cut into frizzy lobes, green without,
+// blanched to yellow at the heart, with broad white ribs.
 
 #include "plates/engraver/Ground.h"
-#include "plates/engraver/Maths.h"
 #include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
@@ -12,40 +11,60 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_044_endive", [](Plate& p) {
-        ground(p, 90, 310, 268, 4);
-        const int count = 46;
-        for (int k = 0; k < count; ++k) {
-            const double q = k / (count - 1.0);
-            const Point root{200, 222};
-            const double a = k * 137.5;
-            const double c = maths::cos(maths::radians(a)), s = maths::sin(maths::radians(a));
-            const double reach = 128 - 92 * q;
-            const Point tip = root + Point{c * reach, s * reach * 0.62 - 26 - 46 * q};
-            const Point bend = root + Point{c * reach * 0.55, s * reach * 0.3 - 34 - 22 * q};
-            const Palette tint = mix(palettes::leafy, mix(palettes::yellow, palettes::cream, 0.5), 0.85 * q);
-            const Path spine = spline({root, bend, tip});
-            for (int j = 0; j < 15; ++j) {
-                const double t = 0.24 + 0.76 * j / 14.0;
-                const Point at = along(spine, t);
-                const double way = angleAlong(spine, t), side = j % 2 == 0 ? 1 : -1;
-                const double long_ = (15 + p.random.around(4)) * (1 - 0.45 * q);
-                const double turn = side * (52 + p.random.around(20));
-                leaf(p, {at, polar(at, way + turn * 0.8, long_ * 0.6), polar(at, way + turn * 1.35, long_)},
-                     {.width = 6.2 * (1 - 0.3 * q),
-                      .shape = {0.35, 0.7, 1, 0.8, 0},
-                      .margin = lobed(2, 0.5),
-                      .palette = tint,
-                      .veins = 0,
-                      .tone = 0.12 * (s < 0 ? 1 : 0) - 0.05,
-                      .contour = 0.5,
-                      .midrib = 0.4,
-                      .shade = 0.2,
-                      .halo = 0.3});
+        ground(p, 70, 330, 272, 5);
+        const Point heart{200, 214};
+        constexpr int leaves = 34;
+        for (int k = 0; k < leaves; ++k) {
+            const double q = k / (leaves - 1.0), turn = k * 137.5 + 20;
+            const Point d = direction(turn);
+            const double reach = 148 - 96 * q;
+            const Point root = heart + Point{d.x * 10, d.y * 6 + 4};
+            const Point tip = heart + Point{d.x * reach, d.y * reach * 0.6 - 10 - 34 * q};
+            const Point mid = heart + Point{d.x * reach * 0.52, d.y * reach * 0.28 - 24 - 14 * q};
+            const Path spine{root, mid, tip};
+            const double width = (27 - 9 * q) * (0.72 + 0.28 * std::fabs(d.x));
+            leaf(p, spine,
+                 {.width = width,
+                  .shape = {0.2, 0.5, 0.85, 1, 0.95, 0.6, 0},
+                  .margin = lobed(7, 0.62),
+                  .palette = mix(palettes::leaf, mix(palettes::yellow, palettes::leafy, 0.45), q),
+                  .veins = 7,
+                  .tone = d.y < 0 ? 0.08 : -0.04,
+                  .contour = 0.75,
+                  .coverage = 0.32,
+                  .pucker = 0.3});
+            // The frizz: little curls that stand up along the rim.
+            const Path rib = spline(spine);
+            for (int j = 0; j < 12; ++j) {
+                const double u = 0.3 + 0.66 * j / 11.0, side = j % 2 == 0 ? 1 : -1;
+                const double way = angleAlong(rib, u);
+                const Point at = polar(along(rib, u), way + side * 90, width * 0.2);
+                leaflet(p, at, polar(at, way + side * p.random.uniform(30, 80), width * 0.56),
+                        {.width = width * 0.2,
+                         .palette = mix(palettes::leafy, palettes::cream, 0.3 * q),
+                         .shape = {0.5, 0.8, 1, 0.9, 0.5, 0},
+                         .tone = 0.02,
+                         .contour = 0.5,
+                         .hatched = false});
             }
-            tube(p, {root, bend, tip}, {4.4, 3, 1},
-                 {.palette = mix(palettes::cream, palettes::leafy, 0.2),
+            tube(p, {along(rib, 0), along(rib, 0.45), along(rib, 0.86)}, {4.4 - 2.4 * q, 2.8 - 1.4 * q, 0.7},
+                 {.palette = palettes::cream,
                   .lines = Lines::along,
+                  .spacing = 3,
                   .contour = 0.5,
-                  .shade = 0.15});
+                  .shade = 0.1});
+        }
+        // The blanched heart stands up and hides where the ribs meet.
+        for (int k = 0; k < 11; ++k) {
+            const double a = -90 + (k * 7 % 11 - 5) * 26.0;
+            const Point root = heart + Point{0, 14}, d = direction(a);
+            leaf(p, {root, root + Point{d.x * 20, d.y * 14 - 4}, root + Point{d.x * 44, d.y * 30 - 14}},
+                 {.width = 12,
+                  .shape = {0.3, 0.6, 0.9, 1, 0.9, 0},
+                  .margin = lobed(5, 0.5),
+                  .palette = mix(palettes::yellow, palettes::cream, 0.5),
+                  .veins = 4,
+                  .coverage = 0.25,
+                  .pucker = 0.3});
         }
     }};

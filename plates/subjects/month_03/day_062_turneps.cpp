@@ -34,5 +34,5 @@ static const Subject subject{
                           .leafLength = 140,
                           .leafWidth = 24,
                           .leafSpread = 62});
-        ground(p, 88, 312, 240, 2);
+        ground(p, 60, 340, 236, 5);
     }};

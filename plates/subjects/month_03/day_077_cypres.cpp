@@ -1,4 +1,4 @@
-// Cypress, Cupressus sempervirens: a dark column of a tree; twigs of tiny scales, globe cones of shield
+// Cypress, Cupressus sempervirens: a dark column of a tree; a twig of tiny scales with globe cones of shield
 // plates.
 
 #include "plates/engraver/Ground.h"
@@ -7,56 +7,51 @@
 #include "plates/engraver/Relief.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
+#include "plates/engraver/botany/ColumnTree.h"
 #include "plates/engraver/botany/Conifer.h"
-#include "plates/engraver/botany/Habit.h"
-
-#include <cmath>
 
 using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_077_cypres", [](Plate& p) {
-        treeHabit(p, {110, 326},
-                  {.height = 258,
-                   .crown = {16, 28, 32, 30, 26, 18, 4},
-                   .bole = 0.07,
-                   .trunk = 6,
-                   .palette = palettes::darkleaf,
-                   .clump = 0.42});
-        ground(p, 70, 150, 326, 3);
-        scaleTwig(p, {{176, 250}, {222, 200}, {262, 140}, {300, 70}}, 62, 12, 2.4, palettes::darkleaf);
-        tube(p, {{176, 250}, {222, 200}, {262, 140}}, {4.6, 3.6, 2},
-             {.palette = palettes::bark, .rough = 0.1});
-        const auto globe = [&](Point at, double radius) {
-            stem(p, {at + Point{-radius * 0.2, -radius - 14}, at + Point{0, -radius * 0.8}}, {2.6, 3},
-                 palettes::bark);
-            const Palette hue = mix(palettes::brown, palettes::greygreen, 0.35);
-            ball(p, at, radius, {.palette = hue, .tone = 0.1, .lines = Lines::none});
-            struct Plate5 {
+        columnTree(p, {110, 336}, {.height = 290, .crown = {18, 30, 34, 33, 29, 20, 4}});
+        ground(p, 60, 166, 336, 4);
+        const Path bough{{184, 318}, {230, 240}, {270, 160}, {306, 64}};
+        scaleTwig(p, bough, 66, 12, 2.6, palettes::darkleaf);
+        tube(p, bough, {5, 4, 3, 1}, {.palette = palettes::bark, .rough = 0.1});
+        const Path way = spline(bough);
+        const auto globe = [&](Point from, Point at, double radius) {
+            stem(p, {from, lerp(from, at, 0.5) + Point{0, -3}, at}, {3.2, 3}, palettes::bark);
+            const Palette hue = mix(palettes::brown, palettes::greygreen, 0.4);
+            ball(p, at, radius, {.palette = hue, .tone = 0.24, .lines = Lines::none});
+            struct Shield {
                 double x, y, size;
             };
-            for (const Plate5& s :
-                 {Plate5{-0.62, -0.5, 0.34}, Plate5{0.1, -0.66, 0.36}, Plate5{0.68, -0.32, 0.3},
-                  Plate5{-0.72, 0.2, 0.32}, Plate5{-0.02, 0.04, 0.42}, Plate5{0.68, 0.38, 0.32},
-                  Plate5{-0.34, 0.7, 0.34}, Plate5{0.3, 0.74, 0.32}}) {
+            // Shields meet edge to edge; a point stands in the middle of each.
+            for (const Shield& s :
+                 {Shield{-0.58, -0.56, 0.36}, Shield{0.1, -0.7, 0.38}, Shield{0.68, -0.36, 0.34},
+                  Shield{-0.74, 0.14, 0.34}, Shield{-0.06, -0.02, 0.46}, Shield{0.66, 0.3, 0.36},
+                  Shield{-0.38, 0.66, 0.36}, Shield{0.26, 0.72, 0.36}}) {
                 const Point c = at + Point{s.x, s.y} * radius;
                 Path shield;
-                for (int k = 0; k < 5; ++k)
-                    shield.push_back(
-                        c +
-                        Point{direction(k * 72.0 + 20).x * s.size * radius * (1.02 - 0.3 * std::fabs(s.x)),
-                              direction(k * 72.0 + 20).y * s.size * radius * (1.02 - 0.3 * std::fabs(s.y))});
-                const Path round = closedSpline(shield, 8);
-                p.knockOut(round, {.halo = 0.6, .shade = 0.2});
-                relief(p, round,
+                for (int k = 0; k < 6; ++k) {
+                    const Point d = direction(k * 60.0 + 20);
+                    shield.push_back(c + Point{d.x * (1.04 - 0.34 * std::fabs(s.x)),
+                                               d.y * (1.04 - 0.34 * std::fabs(s.y))} *
+                                             (s.size * radius));
+                }
+                const Path outline = resample(joined(shield, {shield.front()}), 42);
+                relief(p, outline,
                        {.palette = hue,
-                        .bevel = s.size * radius,
-                        .tone = 0.04 + 0.12 * (s.x + s.y),
-                        .contour = 0.8,
-                        .shade = 0.2});
-                p.stroke({c, c + Point{2, 4}}, {.width = 1.6});
+                        .bevel = s.size * radius * 0.5,
+                        .hatched = false,
+                        .tone = 0.02 + 0.14 * (s.x + s.y),
+                        .contour = 0.9,
+                        .shade = 0.15});
+                p.stroke(spline({c + Point{-5, -1}, c + Point{0, 1.5}, c + Point{5, -1}}), {.width = 1});
+                p.stroke({c, c + Point{1, 5}}, {.width = 1.6, .swell = 0});
             }
         };
-        globe({236, 262}, 38);
-        globe({304, 214}, 36);
+        globe(along(way, 0.16), {264, 296}, 37);
+        globe(along(way, 0.5), {318, 214}, 34);
     }};

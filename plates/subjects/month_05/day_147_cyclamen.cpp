@@ -7,6 +7,7 @@
 #include "plates/engraver/Tube.h"
 #include "plates/engraver/botany/Leaf.h"
 #include "plates/engraver/botany/Roots.h"
+#include "plates/engraver/botany/RoundLeaf.h"
 
 using namespace tambrelle::engraver;
 
@@ -16,26 +17,18 @@ static const Subject subject{
         lathe(p, {200, 348}, 32, {22, 46, 52, 46, 18}, {.palette = palettes::brown});
         const auto heart = [&](const Path& stalk, double degrees, double size) {
             stem(p, stalk, {2.6, 2.2}, palettes::redstem);
-            const Point at = stalk.back();
-            leaf(p, {at, polar(at, degrees, size * 0.5), polar(at, degrees, size)},
-                 {.width = size * 0.5,
-                  .shape = {0.1, 0.8, 0.98, 1, 0.95, 0.85, 0.68, 0.4, 0},
-                  .margin = crenate(10, 0.05),
-                  .palette = palettes::darkleaf,
-                  .veins = 5,
-                  .coverage = 0.3});
-            for (const double s : {-1.0, 1.0})
-                for (int k = 0; k < 5; ++k) {
-                    const Point c = polar(polar(at, degrees, size * (0.16 + 0.15 * k)), degrees + 90 * s,
-                                          size * (0.25 + 0.05 * k - 0.026 * k * k));
-                    p.flat(turned(ellipse(c, size * 0.075, size * 0.045), degrees + 24 * s, c),
-                           palettes::silver, 0.2);
-                }
+            roundLeaf(p, stalk.back(), degrees, size,
+                      {.breadth = 0.66,
+                       .bay = 0.34,
+                       .point = 0.6,
+                       .palette = palettes::darkleaf,
+                       .marbling = 0.75,
+                       .teeth = 40});
         };
-        heart({{194, 318}, {164, 296}, {142, 268}}, -172, 92);
-        heart({{206, 318}, {240, 296}, {260, 268}}, -8, 92);
-        heart({{190, 320}, {160, 312}, {146, 312}}, 166, 78);
-        heart({{210, 320}, {240, 312}, {256, 312}}, 14, 78);
+        heart({{192, 320}, {160, 304}, {138, 292}}, 174, 62);
+        heart({{208, 320}, {240, 304}, {262, 292}}, 6, 62);
+        heart({{194, 318}, {164, 270}, {138, 240}}, -160, 68);
+        heart({{206, 318}, {240, 276}, {262, 246}}, -20, 66);
         const Palette deep = mix(palettes::magenta, palettes::crimson, 0.45);
         const auto swept = [&](const Path& stalk, Point mouth, double size, int side) {
             struct PetalAt {

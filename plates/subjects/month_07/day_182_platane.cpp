@@ -12,7 +12,7 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_182_platane", [](Plate& p) {
         trunk(p, {98, 340}, {98, 40}, 36, {.bark = TrunkForm::Bark::plane});
-        const Path bough = twig(p, {{124, 92}, {176, 78}, {240, 66}, {320, 70}}, {6, 4.4, 2.6});
+        const Path bough = twig(p, {{124, 92}, {176, 78}, {236, 66}, {296, 72}}, {6, 4.4, 2.6});
         const LeafKind star{.build = LeafKind::Build::palmate,
                             .petiole = 0.26,
                             .lobes = {{-96, 0.56}, {-48, 0.86}, {0, 1}, {48, 0.86}, {96, 0.56}},
@@ -21,7 +21,7 @@ static const Subject subject{
                             .toothHeight = 4,
                             .bulge = 0.7};
         growLeaf(p, along(bough, 0.44), 70, 150, 60, star);
-        growLeaf(p, along(bough, 0.98), 62, 140, 56, star);
+        growLeaf(p, along(bough, 0.98), 66, 132, 54, star);
         growLeaf(p, along(bough, 0.66), -64, 86, 40, star);
         const auto fruit = [&](Point at, double size) {
             ball(p, at, size, {.palette = palettes::burr, .tone = 0.1, .lines = Lines::none, .contour = 0});

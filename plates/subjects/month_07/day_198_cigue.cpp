@@ -9,11 +9,13 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_198_cigue", [](Plate& p) {
-        const LeafKind cut{.build = LeafKind::Build::frond, .petiole = 0.2, .leaflets = 8, .subdivided = 6};
-        growLeaf(p, {200, 270}, -164, 128, 34, cut, -10);
-        growLeaf(p, {200, 250}, -14, 128, 34, cut, 10);
-        growLeaf(p, {200, 320}, -10, 116, 30, cut, 14);
-        growLeaf(p, {200, 320}, -170, 116, 30, cut, -14);
+        const LeafKind cut{.build = LeafKind::Build::frond,
+                           .petiole = 0.2,
+                           .leaflets = 3,
+                           .leafletWidth = 0.46,
+                           .subdivided = 4};
+        growLeaf(p, {200, 306}, -166, 172, 40, cut, -10);
+        growLeaf(p, {200, 290}, -14, 172, 40, cut, 10);
         const auto head = umbel(
             {.rays = 11, .length = 48, .spread = 140, .raylets = 10, .rayletLength = 13, .floretRadius = 3});
         for (const Path& spine :

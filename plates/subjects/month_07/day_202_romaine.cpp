@@ -17,11 +17,10 @@ static const Subject subject{
             bool pale;
         };
         // From the back and the heart forward to the outer leaves.
-        for (const Blade& b : {Blade{-6, -5, -4, 296, 50, true}, Blade{8, 6, 6, 292, 50, true},
-                               Blade{-14, -13, -10, 282, 50, true}, Blade{16, 14, 10, 280, 50, true},
-                               Blade{-24, -23, -30, 268, 48, false}, Blade{26, 24, 30, 264, 48, false},
-                               Blade{2, 1, 4, 256, 58, true}, Blade{-24, -13, -18, 238, 52, false},
-                               Blade{26, 14, 18, 232, 52, false}, Blade{0, -1, -4, 206, 54, false}}) {
+        for (const Blade& b : {Blade{-8, -12, -6, 296, 46, true}, Blade{10, 12, 6, 292, 46, true},
+                               Blade{0, 0, 2, 300, 50, true}, Blade{-22, -28, -10, 276, 46, false},
+                               Blade{24, 29, 12, 274, 46, false}, Blade{-2, -1, -3, 268, 58, true},
+                               Blade{-34, -44, -40, 238, 40, false}, Blade{36, 45, 42, 232, 40, false}}) {
             const Point foot{200 + b.foot * 0.7, 338 - std::fabs(b.foot) * 0.2};
             const double way = -90 + b.lean * 0.5;
             const Point tip = polar(foot, way, b.size) + Point{b.curl * 0.4, 0};
@@ -32,11 +31,11 @@ static const Subject subject{
                   .shape = {0.42, 0.42, 0.5, 0.66, 0.86, 0.98, 1, 0.94, 0.66, 0},
                   .margin = wavy(9, 0.06),
                   .palette = green,
-                  .veins = 8,
-                  .slant = 0.2,
+                  .veins = 6,
+                  .slant = 0.34,
                   .midrib = 0,
-                  .coverage = 0.36,
-                  .pucker = 0.34});
+                  .coverage = 0.28,
+                  .pucker = 0.16});
             const Path rib = spline(spine);
             tube(p, {along(rib, 0.02), along(rib, 0.4), along(rib, 0.86)},
                  {b.width * 0.24, b.width * 0.13, 1},

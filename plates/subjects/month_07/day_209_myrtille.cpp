@@ -14,7 +14,7 @@ static const Subject subject{
         const LeafKind small{
             .shape = shapes::ovate, .margin = serrate(13, 0.08), .veins = 5, .petiole = 0.05};
         const auto berry = [&](Point from, Point at, double r) {
-            stem(p, {from, lerp(from, at, 0.5) + Point{3, -3}, at + Point{0, -r}}, {1.5, 1.3});
+            stem(p, {from, lerp(from, at, 0.5) + Point{3, -3}, at + Point{0, -r}}, {2.6, 2.4});
             ball(p, at, r, {.palette = mix(palettes::berry, palettes::blue, 0.35), .tone = -0.04});
             const Point crown = at + Point{-r * 0.12, r * 0.3};
             p.flat(ellipse(crown, r * 0.46, r * 0.36), palettes::berry, 0.85);
@@ -44,8 +44,8 @@ static const Subject subject{
                                              {0.76, -10, 74, 18},
                                              {0.88, -150, 68, 17},
                                              {0.99, -70, 64, 16}}});
-        berry(along(a, 0.44), {112, 246}, 23);
-        berry(along(a, 0.62), {196, 170}, 22);
-        berry(along(b, 0.36), {288, 262}, 24);
-        berry(along(b, 0.3), {228, 306}, 21);
+        berry(along(a, 0.34), {146, 258}, 25);
+        berry(along(a, 0.62), {176, 200}, 24);
+        berry(along(b, 0.36), {270, 264}, 26);
+        berry(along(b, 0.62), {298, 190}, 23);
     }};

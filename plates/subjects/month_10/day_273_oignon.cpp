@@ -15,7 +15,7 @@ static const Subject subject{
              {std::tuple{92.0, 130.0, 6.4}, {310.0, 124.0, 6.4}, {140.0, 92.0, 7.0}, {268.0, 100.0, 7.0}})
             tube(p, {{200, 226}, {200 + (x - 200) * 0.4, 170}, {x, y}}, {w * 0.8, w, 1},
                  {.palette = palettes::bluegreen, .lines = Lines::along});
-        tube(p, {{200, 226}, {198, 160}, {202, 90}}, {6, 7.5, 4.5},
+        tube(p, {{200, 226}, {198, 160}, {202, 66}}, {6, 7.5, 4.5},
              {.palette = palettes::bluegreen, .lines = Lines::along});
         globeHead(p, {202, 72}, -90,
                   {.radius = 36,

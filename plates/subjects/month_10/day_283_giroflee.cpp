@@ -1,48 +1,56 @@
-// Stock, Matthiola incana: a raceme of four-petalled violet flowers, soft grey lance leaves with smooth
-// rims.
+// Double stock, Matthiola incana, the gilliflower of gardens: one stout stem close-set with double rosettes,
+// long soft grey leaves with smooth rims.
 
+#include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
-#include "plates/engraver/botany/Herb.h"
-#include "plates/engraver/botany/Inflorescence.h"
+#include "plates/engraver/Tube.h"
+#include "plates/engraver/botany/CompoundLeaf.h"
+#include "plates/engraver/botany/Flower.h"
+#include "plates/engraver/botany/Roots.h"
 
 using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_283_giroflee", [](Plate& p) {
-        herb(p,
-             {.height = 268,
-              .stems = {-74, 76, 0},
-              .stemRadius = 3.8,
-              .stemPalette = palettes::greygreen,
-              .leaf = {.shape = shapes::lance, .veins = 4, .petiole = 0.04, .palette = palettes::greygreen},
-              .leaves = 7,
-              .leavesFrom = 0.08,
-              .leavesTo = 0.52,
-              .leafLength = 92,
-              .topLeafLength = 58,
-              .leafWidth = 10.5,
-              .topLeafWidth = 7,
-              .leafAngle = 46,
-              .root = RootKind::taproot,
-              .inflorescence =
-                  raceme({.flower = flowers({.petals = 4,
-                                             .length = 23,
-                                             .width = 13.5,
-                                             .baseAngle = 70,
-                                             .tipAngle = 92,
-                                             .palette = mix(palettes::violet, palettes::magenta, 0.45),
-                                             .cup = 2.4,
-                                             .notch = 0.08,
-                                             .tilt = 64,
-                                             .tube = 13,
-                                             .tubeRadius = 3.4,
-                                             .eye = 3,
-                                             .eyePalette = palettes::leafy,
-                                             .sepals = 4,
-                                             .washLift = 0.12}),
-                          .nodes = 6,
-                          .from = 0.55,
-                          .angle = 74,
-                          .pedicel = 8,
-                          .smallest = 0.5})});
+        rootlets(p, {200, 342}, 9, 90, 90, 22);
+        const Path main{{198, 346}, {203, 260}, {198, 160}, {201, 54}};
+        const Path curve = spline(main);
+        const LeafKind blade{.shape = {0.25, 0.45, 0.75, 1, 0.95, 0.5, 0},
+                             .veins = 5,
+                             .petiole = 0.02,
+                             .palette = palettes::greygreen};
+        for (int k = 0; k < 9; ++k) {
+            const double side = k % 2 == 0 ? 1 : -1;
+            growLeaf(p, along(curve, 0.05 + 0.04 * k), -90 + side * (78 - 4 * k), 138 - 6.0 * k, 15, blade,
+                     side * 12);
+        }
+        stem(p, main, {5, 4, 2.4}, palettes::greygreen);
+        const auto rosette = [&](Point at, double degrees, double size) {
+            flower(p, at, degrees,
+                   {.petals = 6,
+                    .length = 25,
+                    .width = 12,
+                    .baseAngle = 66,
+                    .tipAngle = 90,
+                    .palette = mix(palettes::rose, palettes::crimson, 0.35),
+                    .tips = palettes::pink,
+                    .notch = 0.1,
+                    .ruffle = 1.6,
+                    .rings = 3,
+                    .tilt = 66,
+                    .washLift = 0.08},
+                   size);
+        };
+        // From the tip down and from the rim to the front.
+        for (const double x : {-5.0, 6.0})
+            rosette(polar(curve.back(), -90 + x * 8, 2), -90 + x * 6, 0.34);
+        for (int k = 6; k >= 0; --k) {
+            const double q = 0.5 + 0.46 * k / 6.0, size = 1.08 - 0.56 * k / 6.0;
+            for (const double side : {-1.0, 1.0}) {
+                const double reach = 33 * size;
+                rosette(along(curve, q) + Point{side * reach, -4}, -90 + side * 58, size);
+            }
+            if (k % 2 == 0 || k > 4)
+                rosette(along(curve, q + 0.03), -70, size * 0.96);
+        }
     }};

@@ -22,9 +22,9 @@ static const Subject subject{
                 growLeaf(p, along(curve, 0.1 + 0.18 * k), -90 + side * (66 - 5 * k), 92 - 8.0 * k,
                          20 - 1.6 * k, blade, side * 14);
         // Twin pods hang from one stalk.
-        const Point fork{268, 112};
-        stem(p, {along(curve, 0.8), {206, 104}, {248, 92}, fork}, {2.4, 2.2}, palettes::redstem);
-        const Path split{fork, {300, 170}, {312, 240}, {300, 330}};
+        const Point fork{236, 116};
+        stem(p, {along(curve, 0.8), {186, 112}, {214, 102}, fork}, {3, 2.8}, palettes::redstem);
+        const Path split{fork, {270, 170}, {288, 240}, {280, 322}};
         const Path slit = spline(split);
         const auto seed = [&](Point at, double degrees, double size) {
             for (int k = -6; k <= 6; ++k) {
@@ -54,8 +54,8 @@ static const Subject subject{
                                                {0.46, 26.0, 6.0, -34.0, 46.0},
                                                {0.62, 24.0, 22.0, -8.0, 44.0}})
             seed(along(slit, q) + Point{x, y}, a, size);
-        seed({338, 84}, -50, 46);
-        pod(p, {fork, {256, 176}, {240, 250}, {246, 330}},
+        seed({308, 96}, -50, 46);
+        pod(p, {fork, {232, 180}, {222, 250}, {230, 326}},
             {.width = 7.5, .seeds = 0, .open = false, .palette = palettes::leafy});
         stem(p, main, {3.4, 2.8, 2}, palettes::redstem);
         const FlowerAt little = bells(

@@ -1,46 +1,45 @@
-// Goldenrod, Solidago: lance leaves up a straight stem, an arching one-sided plume of tiny golden heads.
+// Goldenrod, Solidago: one leafy wand; side sprays arch out and over, with small golden heads along their
+// upper sides only.
 
+#include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
+#include "plates/engraver/Tube.h"
+#include "plates/engraver/botany/CompoundLeaf.h"
 #include "plates/engraver/botany/Flower.h"
-#include "plates/engraver/botany/Herb.h"
 #include "plates/engraver/botany/Leaf.h"
 
 using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_357_verge_dor", [](Plate& p) {
-        herb(p, {.foot = {190, 348},
-                 .height = 268,
-                 .stems = {-52, 60},
-                 .stemRadius = 3,
-                 .leaf = {.shape = shapes::lance, .margin = serrate(8, 0.12), .veins = 4, .petiole = 0.02},
-                 .leaves = 9,
-                 .leavesFrom = 0.08,
-                 .leavesTo = 0.6,
-                 .leafLength = 78,
-                 .topLeafLength = 42,
-                 .leafWidth = 9,
-                 .topLeafWidth = 6,
-                 .leafAngle = 48,
-                 .root = RootKind::rhizome,
-                 .inflorescence = [](Plate& plate, const Path& curve) {
-                     for (int k = 0; k < 17; ++k) {
-                         const double q = 1 - k * 0.03;
-                         const double side = k % 2 == 0 ? 1 : -1;
-                         const Point from = along(curve, q);
-                         const double reach = 18 + k * 2.6;
-                         const double lift = k == 0 ? -28 : -14;
-                         const Path spray = spline({from, from + Point{side * reach * 0.5, lift},
-                                                    from + Point{side * reach, lift * 0.4 + 4}});
-                         plate.stroke(spray,
-                                      {.width = 1.2, .swell = 0, .fade = 0.3, .colour = Colour(0x66743A)});
-                         const int heads = 4 + k / 3;
-                         for (int h = 0; h < heads; ++h) {
-                             const Point c = along(spray, 0.25 + 0.75 * h / (heads - 1.0)) + Point{0, -3.5};
-                             leaflet(plate, c + Point{0, 5}, c + Point{0, -1},
-                                     {.width = 2.4, .palette = palettes::leafy, .midrib = false});
-                             floret(plate, c, 5.6, palettes::yellow, 7, 0xD89A2A);
-                         }
-                     }
-                 }});
+        const Path main{{196, 354}, {204, 270}, {198, 170}, {202, 52}};
+        const Path curve = spline(main);
+        const LeafKind lance{.shape = shapes::lance, .margin = serrate(8, 0.14), .veins = 5, .petiole = 0.02};
+        for (int k = 0; k < 9; ++k) {
+            const double side = k % 2 == 0 ? 1 : -1;
+            growLeaf(p, along(curve, 0.06 + 0.044 * k), -90 + side * (66 - 2 * k), 112 - 7.0 * k,
+                     13 - 0.7 * k, lance, side * 16);
+        }
+        stem(p, main, {4, 3, 1.4});
+        const auto head = [&](Point at, double degrees, double s) {
+            const Point c = polar(at, degrees, 6 * s);
+            leaflet(p, at, polar(at, degrees, 8 * s),
+                    {.width = 3 * s, .palette = palettes::leafy, .shape = shapes::elliptic, .midrib = false});
+            floret(p, c, 6.6 * s, palettes::yellow, 8, 0xC9881C);
+        };
+        for (int k = 0; k < 14; ++k) {
+            const double t = k / 13.0, q = 0.98 - 0.46 * t, side = k % 2 == 0 ? 1 : -1;
+            const Point from = along(curve, q);
+            const double reach = 20 + 98 * t;
+            const Path spray = spline({from, from + Point{side * reach * 0.36, -20 - reach * 0.16},
+                                       from + Point{side * reach * 0.76, -16 - reach * 0.14},
+                                       from + Point{side * reach, 6}});
+            stem(p, spray, {1.5, 0.8});
+            const int heads = 3 + static_cast<int>(reach / 13);
+            for (int h = 0; h < heads; ++h) {
+                const double u = 0.24 + 0.76 * h / (heads - 1.0);
+                head(along(spray, u), angleAlong(spray, u) - side * 78 + p.random.around(10), 1.1 - 0.25 * u);
+            }
+        }
+        head(curve.back(), -90, 1.1);
     }};
