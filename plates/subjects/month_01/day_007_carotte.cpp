@@ -7,13 +7,15 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_007_carotte", [](Plate& p) {
-        rootVegetable(p, {.crown = {200, 150},
-                          .length = 122,
-                          .shape = {16, 21, 20, 17, 12.5, 7, 2.4},
-                          .tail = 36,
-                          .leaf = {.build = LeafKind::Build::frond, .leaflets = 5, .subdivided = 5},
-                          .leaves = 5,
-                          .leafLength = 112,
-                          .leafWidth = 14,
-                          .leafSpread = 46});
+        rootVegetable(
+            p,
+            {.crown = {200, 150},
+             .length = 122,
+             .shape = {16, 21, 20, 17, 12.5, 7, 2.4},
+             .tail = 36,
+             .leaf = {.build = LeafKind::Build::frond, .leaflets = 4, .leafletWidth = 0.36, .subdivided = 4},
+             .leaves = 5,
+             .leafLength = 112,
+             .leafWidth = 17,
+             .leafSpread = 46});
     }};

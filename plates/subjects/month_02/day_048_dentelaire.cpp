@@ -12,14 +12,14 @@ using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_048_dentelaire", [](Plate& p) {
-        const FlowerForm salver{.length = 19,
-                                .width = 11.5,
+        const FlowerForm salver{.length = 22,
+                                .width = 12,
                                 .baseAngle = 76,
                                 .tipAngle = 92,
                                 .shape = shapes::orbicular,
                                 .palette = mix(palettes::blue, palettes::violet, 0.5),
                                 .notch = 0.06,
-                                .tilt = 58,
+                                .tilt = 66,
                                 .marking =
                                     [](double u, double v) {
                                         return 0.2 * (1 - maths::smooth(0, 0.4, u)) +
@@ -30,7 +30,7 @@ static const Subject subject{
                                 .eye = 1.6,
                                 .eyePalette = palettes::whiteflower};
         herb(p, {.height = 206,
-                 .stems = {-62, 62, 0},
+                 .stems = {-78, 78, 0},
                  .stemRadius = 2.8,
                  .leaf = {.shape = shapes::elliptic, .margin = wavy(6, 0.12), .veins = 5, .petiole = 0.03},
                  .leaves = 6,
@@ -56,7 +56,7 @@ static const Subject subject{
                                                       {.width = 0.5});
                                      }
                                  },
-                             .count = 4,
-                             .spread = 120,
-                             .length = 20})});
+                             .count = 3,
+                             .spread = 170,
+                             .length = 26})});
     }};

@@ -27,16 +27,31 @@ static const Subject subject{
             }
             tube(p, spine, {2.6, 2, 1.2}, {.palette = palettes::bark});
             const Palette rosy = mix(palettes::rose, palettes::magenta, 0.55);
-            for (int k = 13; k >= 0; --k) {
-                const double q = 0.5 + 0.5 * k / 13.0, scale = size * (1.1 - 0.035 * k);
-                for (const double s : {-1.0, 1.0}) {
+            // Bells hang on short stalks all round; those in front cover the stem.
+            constexpr int nodes = 7;
+            for (int k = nodes - 1; k >= 0; --k) {
+                const double q = 0.5 + 0.5 * k / (nodes - 1), scale = size * (1.42 - 0.09 * k);
+                if (k + 1 == nodes) {
+                    bell(p, curve.back(), -90,
+                         {.length = 13, .radius = 5, .lobes = 4, .palette = rosy, .sepals = 4}, scale);
+                    continue;
+                }
+                for (const double way : {k % 2 == 0 ? 168.0 : 150.0, k % 2 == 0 ? 30.0 : 12.0, 88.0}) {
                     const Point at = along(curve, q);
-                    const double way = (k == 13 && s > 0) ? -90 : s > 0 ? 24.0 : 132.0 - 10 * (k % 2);
-                    const Point end = polar(at + Point{0, 0}, way - 14 * s, (s > 0 ? 13 : 9) * scale);
-                    stem(p, {at, end}, {0.9, 0.8}, palettes::redstem);
-                    bell(p, end, way + 12 * s,
-                         {.length = 17,
-                          .radius = 6.8,
+                    const double lean = way + p.random.around(8);
+                    const Point end = polar(at,
+                                            lean - (way > 100  ? -24
+                                                    : way < 60 ? 24
+                                                               : 0),
+                                            way == 88 ? 2 : 11 * scale);
+                    if (way != 88)
+                        stem(p, {at, end}, {1.1, 1}, palettes::redstem);
+                    bell(p, end,
+                         lean + (way > 100  ? -30
+                                 : way < 60 ? 30
+                                            : 0),
+                         {.length = 18,
+                          .radius = 7.4,
                           .shape = {0.35, 0.9, 1.08, 1, 0.72, 0.42, 0.62},
                           .lobes = 4,
                           .lobeDepth = 0.1,

@@ -29,8 +29,7 @@ static const Subject subject{
             p.contour(mouth, 0.7);
             ball(p, at + Point{0, size * 0.56}, size * 0.36, {.palette = palettes::berry, .direction = 90});
         };
-        for (const Point at :
-             {Point{122, 128}, Point{176, 156}, Point{116, 216}, Point{216, 182}, Point{180, 250},
-              Point{250, 166}, Point{278, 228}, Point{296, 140}, Point{212, 288}})
-            aril(at, 14);
+        for (const Point at : {Point{122, 114}, Point{186, 146}, Point{112, 220}, Point{184, 212},
+                               Point{206, 264}, Point{252, 148}, Point{282, 216}, Point{304, 134}})
+            aril(at + Point{0, 6}, 14);
     }};

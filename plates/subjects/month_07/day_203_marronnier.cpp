@@ -23,8 +23,8 @@ static const Subject subject{
         twig(p, {{200, 336}, {198, 280}, {200, 216}}, {7, 5, 3.6});
         growLeaf(p, {200, 250}, 168, 158, 14, hand, -8);
         growLeaf(p, {200, 250}, 12, 158, 14, hand, 8);
-        const FlowerForm white{.length = 13,
-                               .width = 7.6,
+        const FlowerForm white{.length = 14.5,
+                               .width = 8.4,
                                .baseAngle = 60,
                                .tipAngle = 92,
                                .palette = palettes::whiteflower,
@@ -38,7 +38,7 @@ static const Subject subject{
         const Path candle = stem(p, {{200, 230}, {201, 140}, {200, 44}}, {3.6, 1.8});
         panicle({.flower = flowers(white),
                  .from = 0.16,
-                 .branches = 11,
+                 .branches = 9,
                  .perBranch = 5,
                  .width = 46,
                  .angle = 62,

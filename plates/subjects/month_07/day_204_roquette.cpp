@@ -12,13 +12,13 @@ static const Subject subject{
         const LeafKind lyrate{
             .shape = {0.2, 0.4, 0.6, 0.85, 1, 0.8, 0}, .margin = lobed(4, 0.72), .veins = 5, .petiole = 0.14};
         herb(p, {.height = 236,
-                 .stems = {-50, 56, 0},
+                 .stems = {-64, 66, 0},
                  .stemRadius = 2.8,
                  .leaf = lyrate,
                  .leaves = 4,
                  .leavesFrom = 0.14,
                  .leavesTo = 0.6,
-                 .leafLength = 104,
+                 .leafLength = 96,
                  .topLeafLength = 50,
                  .leafWidth = 22,
                  .topLeafWidth = 11,
@@ -29,13 +29,13 @@ static const Subject subject{
                  .root = RootKind::taproot,
                  .inflorescence =
                      raceme({.flower = flowers({.petals = 4,
-                                                .length = 18,
-                                                .width = 7.6,
+                                                .length = 24,
+                                                .width = 10,
                                                 .baseAngle = 66,
                                                 .tipAngle = 92,
                                                 .palette = palettes::cream,
                                                 .cup = 2.6,
-                                                .tilt = 66,
+                                                .tilt = 76,
                                                 .roll = 45,
                                                 .marking =
                                                     [](double u, double v) {
@@ -49,9 +49,9 @@ static const Subject subject{
                                                 .tube = 9,
                                                 .eye = 2,
                                                 .washLift = 0}),
-                             .nodes = 4,
+                             .nodes = 3,
                              .from = 0.7,
                              .angle = 78,
-                             .pedicel = 16,
+                             .pedicel = 20,
                              .smallest = 0.6})});
     }};

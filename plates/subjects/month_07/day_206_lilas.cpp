@@ -18,8 +18,8 @@ static const Subject subject{
         growLeaf(p, {200, 256}, -28, 128, 36, heart, 14);
         const Path axis = stem(p, {{200, 246}, {202, 150}, {200, 50}}, {3, 1.6});
         const FlowerForm floretForm{.petals = 4,
-                                    .length = 11,
-                                    .width = 6.2,
+                                    .length = 12,
+                                    .width = 6.8,
                                     .baseAngle = 74,
                                     .tipAngle = 90,
                                     .shape = shapes::elliptic,
@@ -32,7 +32,7 @@ static const Subject subject{
         const auto one = flowers(floretForm);
         for (int row = 0; row < 15; ++row) {
             const double t = row / 14.0, half = 62 * maths::pow(1 - t, 0.75) * (0.72 + 0.6 * t) + 3;
-            const int n = 2 + static_cast<int>(half / 7.5);
+            const int n = 2 + static_cast<int>(half / 8.8);
             for (int k = 0; k < n; ++k) {
                 const double x = -half + 2 * half * (k + 0.5) / n + p.random.around(3);
                 one(p, {200 + x, 238 - 188 * t + p.random.around(5)}, -90 + x * 0.9, 1 - 0.25 * t,

@@ -2,38 +2,35 @@
 // yellow flowers, on a rock.
 
 #include "plates/engraver/Ground.h"
-#include "plates/engraver/Relief.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
 #include "plates/engraver/botany/Inflorescence.h"
 #include "plates/engraver/botany/Leaf.h"
+#include "plates/engraver/minerals/Stone.h"
 
 using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_228_corbeille_dor", [](Plate& p) {
         ground(p, 90, 318, 300, 5);
-        relief(p,
-               closedSpline({{96, 306},
-                             {90, 284},
-                             {108, 262},
-                             {142, 252},
-                             {160, 238},
-                             {206, 234},
-                             {240, 236},
-                             {268, 250},
-                             {300, 258},
-                             {320, 284},
-                             {312, 306},
-                             {206, 310}},
-                            5),
-               {.palette = palettes::stone, .bevel = 40, .creases = true});
+        stone(p,
+              {{86, 306},
+               {92, 280},
+               {126, 252},
+               {166, 234},
+               {240, 234},
+               {282, 250},
+               {316, 272},
+               {330, 304},
+               {250, 314},
+               {150, 314}},
+              {.seed = 4, .facets = 12, .rough = 1.6, .depth = 36, .ragged = 3});
         struct Tuft {
             Point foot, top;
         };
         std::vector<Tuft> tufts;
-        for (int k = 0; k < 9; ++k) {
-            const double f = (k - 4) / 4.0;
+        for (int k = 0; k < 7; ++k) {
+            const double f = (k - 3) / 3.0;
             tufts.push_back({{202 + f * 46, 258}, {202 + f * 112, 132 + 74 * f * f + (k % 2 == 0 ? 0 : 22)}});
         }
         std::sort(tufts.begin(), tufts.end(), [](const Tuft& a, const Tuft& b) { return a.top.y < b.top.y; });
@@ -52,8 +49,8 @@ static const Subject subject{
             const Path spine{t.foot, lerp(t.foot, t.top, 0.5) + Point{0, -10}, t.top};
             stem(p, spine, {1.7, 1.3});
             corymb({.flower = flowers({.petals = 4,
-                                       .length = 10.4,
-                                       .width = 4.6,
+                                       .length = 11.6,
+                                       .width = 5.2,
                                        .baseAngle = 72,
                                        .tipAngle = 88,
                                        .shape = {0.3, 0.6, 1, 0.95, 0.7, 0},
@@ -63,7 +60,7 @@ static const Subject subject{
                                        .eye = 1.6,
                                        .eyePalette = palettes::gold,
                                        .washLift = 0.2}),
-                    .count = 8,
+                    .count = 7,
                     .spread = 190,
                     .length = 29})(p, spline(spine));
         }

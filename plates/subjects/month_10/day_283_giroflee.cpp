@@ -27,9 +27,9 @@ static const Subject subject{
         stem(p, main, {5, 4, 2.4}, palettes::greygreen);
         const auto rosette = [&](Point at, double degrees, double size) {
             flower(p, at, degrees,
-                   {.petals = 6,
+                   {.petals = 5,
                     .length = 25,
-                    .width = 12,
+                    .width = 13.5,
                     .baseAngle = 66,
                     .tipAngle = 90,
                     .palette = mix(palettes::rose, palettes::crimson, 0.35),

@@ -41,12 +41,12 @@ static const Subject subject{
                           .midrib = 0.6});
                 }
         };
-        strapLeaf(p, {171, 328}, -160, 100, 7, 44, palettes::oldleaf);
+        strapLeaf(p, {182, 328}, -160, 100, 7, 44, palettes::oldleaf);
         strapLeaf(p, {211, 312}, -20, 74, 7, 36, palettes::oldleaf);
-        fatEar({{190, 352}, {152, 306}, {124, 262}}, 1.12, 9);
-        fatEar({{204, 352}, {214, 290}, {224, 240}}, 1.36, 10);
+        fatEar({{198, 352}, {172, 312}, {150, 272}}, 1.0, 9);
+        fatEar({{204, 352}, {214, 290}, {236, 250}}, 1.3, 10);
         // Cut across: six grains in a star.
-        const Point c{318, 308};
+        const Point c{330, 312};
         for (int k = 0; k < 6; ++k) {
             const double a = k * 60.0 - 90;
             const Path part = turned(ellipse(polar(c, a, 19), 17, 9, 30), a, polar(c, a, 19));

@@ -34,7 +34,7 @@ static const Subject subject{
                     const double lean = side * (15 - 0.6 * k);
                     const Point tip = polar(at, way + lean + side * 8, 30 * size);
                     p.stroke(spline({tip, polar(tip, way + lean * 0.8, 60 * size),
-                                     polar(tip, way + lean * 0.7, (126 - 3 * k) * size)}),
+                                     polar(tip, way + lean * 0.7, (98 - 3 * k) * size)}),
                              {.width = 1.1, .swell = 0, .fade = 0.6, .wobble = 0.05});
                 }
             stem(p, stalk, {2.6, 2.2}, palettes::straw);
@@ -46,8 +46,8 @@ static const Subject subject{
         };
         strapLeaf(p, {163, 326}, -150, 84, 7, 40, palettes::oldleaf);
         strapLeaf(p, {222, 328}, -30, 74, 7, 36, palettes::oldleaf);
-        flatEar({{176, 352}, {158, 316}, {144, 286}}, 1.3, 10);
-        flatEar({{212, 352}, {232, 312}, {248, 270}}, 1.44, 10);
+        flatEar({{176, 352}, {160, 324}, {146, 298}}, 1.2, 10);
+        flatEar({{212, 352}, {232, 320}, {246, 290}}, 1.34, 10);
         // Cut across: two grains, back to back.
         for (const double turn : {0.0, 180.0}) {
             const Point c{322, 318};

@@ -1,5 +1,6 @@
 // Hazel, Corylus avellana: round double-toothed leaves, three nuts in ragged leafy husks.
 
+#include "plates/engraver/Lathe.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
 #include "plates/engraver/botany/Branch.h"
@@ -33,8 +34,17 @@ static const Subject subject{
                       .margin = serrate(3, 0.45),
                       .palette = palettes::leafy,
                       .veins = 3});
-            nut(p, polar(at, degrees, size * 0.42), degrees, size * 0.72, size * 1.6, palettes::ginger,
-                false);
+            const Point foot = polar(at, degrees, size * 0.3);
+            lathe(p, foot, size * 1.42,
+                  {size * 0.5, size * 0.72, size * 0.8, size * 0.78, size * 0.66, size * 0.4, size * 0.04},
+                  {.direction = degrees,
+                   .tilt = 0.1,
+                   .palette = palettes::ginger,
+                   .lines = Lines::along,
+                   .spacing = 2,
+                   .highlight = 0.16});
+            p.stroke({polar(foot, degrees, size * 1.38), polar(foot, degrees, size * 1.54)},
+                     {.width = 2, .swell = 0, .fade = 0.7});
             for (int k = 0; k < 5; ++k) {
                 const double f = (k - 2) / 2.0;
                 const Point from = polar(at, degrees + 90, f * size * 0.5);
