@@ -128,34 +128,41 @@ Picture compose(const Plate& plate, const Composition& how) {
     const double originY = w.height / 2.0 - picture.height * step / 2;
     const std::vector<Tap> across = taps(picture.width, step, originX);
     const std::vector<Tap> down = taps(picture.height, step, originY);
+    const int before = std::max(0, -across.front().first);
+    const int after =
+        std::max(0, across.back().first + static_cast<int>(across.back().weights.size()) - w.width);
     for (int c = 0; c < 3; ++c) {
         const Field& source = painting.channel[c];
         Field narrow(picture.width, w.height);
-        for (int y = 0; y < w.height; ++y)
+        // Beyond the window lies white paper.
+        std::vector<float> row(static_cast<std::size_t>(before + w.width + after), 1.0F);
+        for (int y = 0; y < w.height; ++y) {
+            std::copy(&source(0, y), &source(0, y) + w.width, row.begin() + before);
             for (int x = 0; x < picture.width; ++x) {
                 const Tap& tap = across[static_cast<std::size_t>(x)];
+                const float* from = row.data() + before + tap.first;
                 float sum = 0;
-                int s = tap.first;
-                for (const float weight : tap.weights) {
-                    sum += weight * (s >= 0 && s < w.width ? source(s, y) : 1.0F);
-                    ++s;
-                }
+                for (std::size_t i = 0; i < tap.weights.size(); ++i)
+                    sum += tap.weights[i] * from[i];
                 narrow(x, y) = sum;
             }
+        }
+        const std::vector<float> blank(static_cast<std::size_t>(picture.width), 1.0F);
+        std::vector<float> sums(blank.size());
         for (int y = 0; y < picture.height; ++y) {
             const Tap& tap = down[static_cast<std::size_t>(y)];
-            for (int x = 0; x < picture.width; ++x) {
-                float sum = 0;
-                int s = tap.first;
-                for (const float weight : tap.weights) {
-                    sum += weight * (s >= 0 && s < w.height ? narrow(x, s) : 1.0F);
-                    ++s;
-                }
-                const float level = std::clamp(sum, 0.0F, 1.0F) * 255.0F + 0.5F;
-                picture
-                    .rgb[static_cast<std::size_t>(y * picture.width + x) * 3 + static_cast<std::size_t>(c)] =
-                    static_cast<unsigned char>(level);
+            std::fill(sums.begin(), sums.end(), 0.0F);
+            int s = tap.first;
+            for (const float weight : tap.weights) {
+                const float* from = s >= 0 && s < w.height ? &narrow(0, s) : blank.data();
+                for (std::size_t x = 0; x < sums.size(); ++x)
+                    sums[x] += weight * from[x];
+                ++s;
             }
+            unsigned char* to = &picture.rgb[static_cast<std::size_t>(y * picture.width) * 3];
+            for (std::size_t x = 0; x < sums.size(); ++x)
+                to[x * 3 + static_cast<std::size_t>(c)] =
+                    static_cast<unsigned char>(std::clamp(sums[x], 0.0F, 1.0F) * 255.0F + 0.5F);
         }
     }
     return picture;

@@ -6,6 +6,11 @@ namespace tambrelle::engraver {
 
 namespace {
 
+void addScaled(float* to, const float* from, float factor, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i)
+        to[i] += factor * from[i];
+}
+
 // Runs `pass(read, write, length)` over every row, then over every column.
 template <class Pass>
 void separably(Field& field, const Pass& pass) {
@@ -39,21 +44,74 @@ void separably(Field& field, const Pass& pass) {
     }
 }
 
-std::size_t held(std::ptrdiff_t i, std::size_t n) {
-    return i < 0 ? 0 : std::min(static_cast<std::size_t>(i), n - 1);
+// A line with its ends repeated `radius` times beyond them.
+void pad(const std::vector<float>& in, std::vector<float>& padded, std::size_t radius) {
+    padded.resize(in.size() + 2 * radius);
+    const auto begin = padded.begin(), middle = begin + static_cast<std::ptrdiff_t>(radius);
+    std::fill(begin, middle, in.front());
+    std::fill(std::copy(in.begin(), in.end(), middle), padded.end(), in.back());
 }
 
-void boxPass(const std::vector<float>& in, std::vector<float>& out, std::ptrdiff_t radius) {
-    const std::size_t n = in.size();
+// The row `y`, or the nearest there is.
+const float* heldRow(const Field& field, int y) {
+    return &field(0, std::clamp(y, 0, field.height() - 1));
+}
+
+// Both passes add the kernel's products in its order for every pixel; along rows they do it for many pixels
+// at once.
+void convolve(Field& field, const std::vector<float>& kernel) {
+    const int w = field.width(), h = field.height(), radius = static_cast<int>(kernel.size() / 2);
+    const auto n = static_cast<std::size_t>(w);
+    Field across(w, h);
+    std::vector<float> line(n), padded;
+    for (int y = 0; y < h; ++y) {
+        line.assign(&field(0, y), &field(0, y) + w);
+        pad(line, padded, static_cast<std::size_t>(radius));
+        float* out = &across(0, y);
+        for (std::size_t k = 0; k < kernel.size(); ++k)
+            addScaled(out, padded.data() + k, kernel[k], n);
+    }
+    for (int y = 0; y < h; ++y) {
+        float* out = &field(0, y);
+        std::fill(out, out + w, 0.0F);
+        for (int k = -radius; k <= radius; ++k)
+            addScaled(out, heldRow(across, y + k), kernel[static_cast<std::size_t>(k + radius)], n);
+    }
+}
+
+void boxAcross(const std::vector<float>& in, std::vector<float>& out, int radius,
+               std::vector<float>& padded) {
+    const std::size_t n = in.size(), breadth = 2 * static_cast<std::size_t>(radius) + 1;
+    pad(in, padded, static_cast<std::size_t>(radius) + 1);
     double sum = 0;
-    for (std::ptrdiff_t k = -radius; k <= radius; ++k)
-        sum += in[held(k, n)];
-    const double share = 1.0 / static_cast<double>(2 * radius + 1);
+    for (std::size_t k = 1; k <= breadth; ++k)
+        sum += padded[k];
+    const double share = 1.0 / static_cast<double>(breadth);
     for (std::size_t i = 0; i < n; ++i) {
         out[i] = static_cast<float>(sum * share);
-        const auto at = static_cast<std::ptrdiff_t>(i);
-        sum += in[held(at + radius + 1, n)] - in[held(at - radius, n)];
+        sum += padded[i + breadth + 1] - padded[i + 1];
     }
+}
+
+Field boxDown(const Field& in, int radius) {
+    const int w = in.width(), h = in.height();
+    Field out(w, h);
+    std::vector<double> sums(static_cast<std::size_t>(w), 0.0);
+    for (int k = -radius; k <= radius; ++k) {
+        const float* row = heldRow(in, k);
+        for (std::size_t x = 0; x < sums.size(); ++x)
+            sums[x] += row[x];
+    }
+    const double share = 1.0 / (2.0 * radius + 1);
+    for (int y = 0; y < h; ++y) {
+        float* to = &out(0, y);
+        const float *entering = heldRow(in, y + radius + 1), *leaving = heldRow(in, y - radius);
+        for (std::size_t x = 0; x < sums.size(); ++x) {
+            to[x] = static_cast<float>(sums[x] * share);
+            sums[x] += entering[x] - leaving[x];
+        }
+    }
+    return out;
 }
 
 template <class Better>
@@ -85,26 +143,20 @@ void blur(Field& field, double sigma) {
             sum += maths::exp(-0.5 * k * k / (sigma * sigma));
         for (int k = -radius; k <= radius; ++k)
             kernel.push_back(static_cast<float>(maths::exp(-0.5 * k * k / (sigma * sigma)) / sum));
-        separably(field, [&kernel, radius](const std::vector<float>& in, std::vector<float>& out) {
-            const std::size_t n = in.size();
-            for (std::size_t i = 0; i < n; ++i) {
-                float v = 0;
-                for (std::size_t k = 0; k < kernel.size(); ++k)
-                    v += kernel[k] * in[held(static_cast<std::ptrdiff_t>(i + k) - radius, n)];
-                out[i] = v;
-            }
-        });
+        convolve(field, kernel);
         return;
     }
     // Three boxes of radius r have the variance r (r + 1).
-    const auto radius = static_cast<std::ptrdiff_t>(std::floor(std::sqrt(sigma * sigma + 0.25) - 0.5 + 0.5));
-    std::vector<float> spare;
-    separably(field, [radius, &spare](const std::vector<float>& in, std::vector<float>& out) {
-        spare.resize(in.size());
-        boxPass(in, out, radius);
-        boxPass(out, spare, radius);
-        boxPass(spare, out, radius);
-    });
+    const int radius = static_cast<int>(std::floor(std::sqrt(sigma * sigma + 0.25) - 0.5 + 0.5));
+    std::vector<float> line(static_cast<std::size_t>(field.width())), other(line.size()), padded;
+    for (int y = 0; y < field.height(); ++y) {
+        line.assign(&field(0, y), &field(0, y) + field.width());
+        boxAcross(line, other, radius, padded);
+        boxAcross(other, line, radius, padded);
+        boxAcross(line, other, radius, padded);
+        std::copy(other.begin(), other.end(), &field(0, y));
+    }
+    field = boxDown(boxDown(boxDown(field, radius), radius), radius);
 }
 
 Field dilated(const Field& field, int radius) {

@@ -1,11 +1,21 @@
 #include "plates/engraver/Maths.h"
 
+#include <array>
+#include <cstddef>
+
 namespace tambrelle::engraver::maths {
 
 namespace {
 
 constexpr double halfPiHigh = 1.57079632673412561417;
 constexpr double halfPiLow = 6.07710050650619224932e-11;
+
+// Terms of the series: 1, 1/3, 1/5 ... and 1, 1/1!, 1/2! ...; dividing anew in every step is what would cost.
+constexpr std::array<double, 12> oddReciprocals{1.0 / 1,  1.0 / 3,  1.0 / 5,  1.0 / 7,  1.0 / 9,  1.0 / 11,
+                                                1.0 / 13, 1.0 / 15, 1.0 / 17, 1.0 / 19, 1.0 / 21, 1.0 / 23};
+constexpr std::array<double, 14> factorialReciprocals{
+    1.0,        1.0,         1.0 / 2,      1.0 / 6,       1.0 / 24,       1.0 / 120,       1.0 / 720,
+    1.0 / 5040, 1.0 / 40320, 1.0 / 362880, 1.0 / 3628800, 1.0 / 39916800, 1.0 / 479001600, 1.0 / 6227020800};
 
 double sineNearZero(double r) {
     const double z = r * r;
@@ -48,8 +58,8 @@ double arctangentBelowOne(double t) {
     }
     const double z = t * t;
     double sum = 0;
-    for (int k = 23; k >= 1; k -= 2)
-        sum = 1.0 / k - z * sum;
+    for (std::size_t k = oddReciprocals.size(); k-- > 0;)
+        sum = oddReciprocals[k] - z * sum;
     return offset + t * sum;
 }
 
@@ -68,9 +78,9 @@ double exp(double x) {
     constexpr double ln2Low = 1.90821492927058770002e-10;
     const double n = std::floor(x * 1.44269504088896340736 + 0.5);
     const double r = (x - n * ln2High) - n * ln2Low;
-    double sum = 1;
-    for (int k = 13; k >= 1; --k)
-        sum = 1 + sum * r / k;
+    double sum = 0;
+    for (std::size_t k = factorialReciprocals.size(); k-- > 0;)
+        sum = factorialReciprocals[k] + sum * r;
     return std::ldexp(sum, static_cast<int>(n));
 }
 
@@ -84,8 +94,8 @@ double log(double x) {
     const double s = (m - 1) / (m + 1);
     const double z = s * s;
     double sum = 0;
-    for (int k = 19; k >= 1; k -= 2)
-        sum = 1.0 / k + z * sum;
+    for (std::size_t k = 10; k-- > 0;)
+        sum = oddReciprocals[k] + z * sum;
     return 2 * s * sum + exponent * 0.69314718055994530942;
 }
 

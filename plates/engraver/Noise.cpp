@@ -22,23 +22,29 @@ double cubic(double a, double b, double c, double d, double t) {
 
 } // namespace
 
-double Noise::octave(double x, double y, std::uint64_t salt) const {
+double Noise::octave(double x, double y, int number) const {
     const double fx = std::floor(x), fy = std::floor(y);
     const auto ix = static_cast<std::int64_t>(fx), iy = static_cast<std::int64_t>(fy);
-    double rows[4];
-    for (int j = 0; j < 4; ++j) {
-        const std::int64_t row = iy + j - 1;
-        const std::uint64_t s = seed_ + salt;
-        rows[j] = cubic(latticeValue(ix - 1, row, s), latticeValue(ix, row, s), latticeValue(ix + 1, row, s),
-                        latticeValue(ix + 2, row, s), x - fx);
+    Cell& cell = cells_[static_cast<std::size_t>(number)];
+    if (cell.x != ix || cell.y != iy) {
+        const std::uint64_t seed = seed_ + static_cast<std::uint64_t>(number) * 7919;
+        cell.x = ix;
+        cell.y = iy;
+        std::size_t k = 0;
+        for (std::int64_t row = iy - 1; row <= iy + 2; ++row)
+            for (std::int64_t column = ix - 1; column <= ix + 2; ++column)
+                cell.values[k++] = latticeValue(column, row, seed);
     }
-    return cubic(rows[0], rows[1], rows[2], rows[3], y - fy);
+    const std::array<double, 16>& v = cell.values;
+    const double t = x - fx;
+    return cubic(cubic(v[0], v[1], v[2], v[3], t), cubic(v[4], v[5], v[6], v[7], t),
+                 cubic(v[8], v[9], v[10], v[11], t), cubic(v[12], v[13], v[14], v[15], t), y - fy);
 }
 
 double Noise::operator()(double x, double y) const {
     double sum = 0, height = 1;
     for (int k = 0; k < octaves_; ++k) {
-        sum += height * octave(x, y, static_cast<std::uint64_t>(k) * 7919);
+        sum += height * octave(x, y, k);
         x = x * 2 + 17.3;
         y = y * 2 + 5.7;
         height *= gain_;

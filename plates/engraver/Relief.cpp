@@ -42,6 +42,8 @@ Field tonesOf(const ReliefForm& form, const Plate::Window& window, const Field& 
     Field tones(window.width, window.height);
     for (int y = 0; y < window.height; ++y)
         for (int x = 0; x < window.width; ++x) {
+            if (mask(x, y) <= 0.02F)
+                continue;
             const Vector3 n = unit(Vector3{-static_cast<double>(slopeX(z, x, y)) * scale,
                                            -static_cast<double>(slopeY(z, x, y)) * scale, 1});
             tones(x, y) = static_cast<float>(

@@ -3,6 +3,7 @@
 #include "plates/engraver/PlaneCuts.h"
 #include "plates/engraver/Relief.h"
 #include "plates/engraver/Sheet.h"
+#include "plates/engraver/Vessel.h"
 
 #include <gtest/gtest.h>
 
@@ -53,6 +54,19 @@ TEST(Lathe, PlacesThingsOnItsSurface) {
     EXPECT_LT(s.facing(0.5, 270), -0.99);
     const Bounds b = boundsOf(s.outline);
     EXPECT_NEAR(b.right - b.left, 80, 2);
+}
+
+TEST(Vessel, ShowsItsHollowOrWhatStandsInIt) {
+    const auto middle = [](const MouthForm& form) {
+        Plate plate("test");
+        const LatheSurface s = lathe(plate, {200, 300}, 100, 60, {.tilt = 0.5});
+        mouth(plate, s, form);
+        const Point p = s.at(1, 90, -50);
+        return plate.washLayer()(static_cast<int>(p.x * Plate::scale), static_cast<int>(p.y * Plate::scale));
+    };
+    const Pixel empty = middle({}), water = middle({.liquid = palettes::water, .level = 0.02});
+    EXPECT_GT(empty.r, empty.b + 0.1F);
+    EXPECT_GT(water.b, water.r);
 }
 
 TEST(Sheets, TheNearerSheetHidesTheFarther) {

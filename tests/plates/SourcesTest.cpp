@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <map>
 #include <regex>
 #include <sstream>
 #include <string>
@@ -28,4 +29,24 @@ TEST(PlateSources, UseNothingThatDiffersBetweenMachines) {
         ++read;
     }
     EXPECT_GT(read, 40);
+}
+
+// Two types of one name in two headers are one type to the linker: whoever includes the second calls
+// functions made for the first, with the wrong fields.
+TEST(PlateSources, EveryTypeIsDefinedInOneHeaderOnly) {
+    const std::regex definition(R"((?:^|\n)(?:struct|class|enum class) (\w+)[^;{]*\{)");
+    std::map<std::string, std::filesystem::path> definedIn;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(PLATES_SOURCES)) {
+        if (entry.path().extension() != ".h")
+            continue;
+        std::ifstream file(entry.path());
+        std::ostringstream contents;
+        contents << file.rdbuf();
+        const std::string text = contents.str();
+        for (std::sregex_iterator found(text.begin(), text.end(), definition), end; found != end; ++found) {
+            const auto [at, isNew] = definedIn.emplace((*found)[1], entry.path());
+            EXPECT_TRUE(isNew) << (*found)[1] << " in " << at->second << " and in " << entry.path();
+        }
+    }
+    EXPECT_GT(definedIn.size(), 60U);
 }

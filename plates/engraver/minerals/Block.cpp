@@ -20,7 +20,7 @@ Path Box::top() const {
     return {at(1, 0, 1), at(0, 0, 1), at(0, 1, 1), at(1, 1, 1)};
 }
 
-void block(Plate& plate, const Box& box, const BlockForm& form) {
+void cutBlock(Plate& plate, const Box& box, const CutBlockForm& form) {
     plate.knockOut(hull(joined(joined(box.leftFace(), box.rightFace()), box.top())), {.shade = form.shade});
     FaceForm f{.palette = form.palette,
                .spacing = form.spacing,

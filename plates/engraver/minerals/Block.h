@@ -23,7 +23,7 @@ struct Box {
 };
 
 /// Smooth faces: bricks, ingots, cut blocks.
-struct BlockForm {
+struct CutBlockForm {
     Palette palette = palettes::stone;
     double leftTone = 0.34;
     double rightTone = 0.66;
@@ -33,7 +33,7 @@ struct BlockForm {
     double shade = 0.30;
     double grain = 0;
 };
-void block(Plate& plate, const Box& box, const BlockForm& form = {});
+void cutBlock(Plate& plate, const Box& box, const CutBlockForm& form = {});
 
 /// A layer of a rough block, counted from the foot.
 struct Bed {

@@ -42,12 +42,12 @@ static const Subject subject{
         const auto stack = [&](double l, double r, double up) {
             return foot + left * l + right * r - Point{0, 31 * up};
         };
-        block(p, {.front = stack(0.08, 0.08, 0), .left = left * 0.84, .right = right * 0.84, .height = 90},
-              {.palette = {0x54402E, 0x38281A, 0x20150C},
-               .leftTone = 0.8,
-               .rightTone = 0.8,
-               .contour = 0,
-               .shade = 0});
+        cutBlock(p, {.front = stack(0.08, 0.08, 0), .left = left * 0.84, .right = right * 0.84, .height = 90},
+                 {.palette = {0x54402E, 0x38281A, 0x20150C},
+                  .leftTone = 0.8,
+                  .rightTone = 0.8,
+                  .contour = 0,
+                  .shade = 0});
         std::uint64_t seed = 10;
         for (int layer = 0; layer < 4; ++layer)
             for (const double place : {0.74, 0.37, 0.0}) {

@@ -1,7 +1,7 @@
 #include "plates/engraver/Ground.h"
 #include "plates/engraver/Subject.h"
+#include "plates/engraver/Vessel.h"
 #include "plates/engraver/minerals/Drop.h"
-#include "plates/engraver/minerals/Vessel.h"
 
 using namespace tambrelle::engraver;
 
@@ -46,7 +46,7 @@ static const Subject subject{
             p.hatch(hoop.transposed(), {.spacing = 1.8});
             p.contour(band(a, b), 0.6);
         }
-        mouth(p, bucket, {.palette = palettes::wood, .wall = 5, .filling = pitch});
+        mouth(p, bucket, {.rim = 5, .liquid = pitch, .level = 0.04});
         liquid(p,
                closedSpline({{152, 122},
                              {178, 130},

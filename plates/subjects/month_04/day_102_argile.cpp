@@ -2,8 +2,8 @@
 #include "plates/engraver/Lathe.h"
 #include "plates/engraver/Noise.h"
 #include "plates/engraver/Subject.h"
+#include "plates/engraver/Vessel.h"
 #include "plates/engraver/minerals/Stone.h"
-#include "plates/engraver/minerals/Vessel.h"
 
 using namespace tambrelle::engraver;
 
@@ -19,7 +19,7 @@ static const Subject subject{
                   {.tilt = 0.3, .palette = clay, .texture = [](double u, double, double tone) {
                        return tone + 0.13 * maths::sin(u * 92); // the fingers' grooves
                    }});
-        mouth(p, pot, {.palette = clay, .wall = 4.5});
+        mouth(p, pot, {.rim = 4.5, .palette = clay});
         ReliefForm r;
         r.palette = clay;
         r.highlight = 0.02;

@@ -35,7 +35,7 @@ static const Subject subject{
         const Palette marble{0xFFFFFF, 0xECEDEE, 0x9EA4AA};
         ground(p, 66, 336, 294, 7);
         const Box plinth{.front = {208, 312}, .left = {-136, -36}, .right = {128, -38}, .height = 34};
-        block(p, plinth, {.palette = marble, .leftTone = 0.2, .rightTone = 0.6, .topTone = 0.06});
+        cutBlock(p, plinth, {.palette = marble, .leftTone = 0.2, .rightTone = 0.6, .topTone = 0.06});
         const auto veins = [&](const Path& outline, const std::vector<std::pair<Point, Point>>& lines,
                                double width) {
             const Plate::Clip clip(p, outline);

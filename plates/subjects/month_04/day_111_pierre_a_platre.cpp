@@ -1,8 +1,8 @@
 #include "plates/engraver/Ground.h"
 #include "plates/engraver/Subject.h"
+#include "plates/engraver/Vessel.h"
 #include "plates/engraver/minerals/Crystal.h"
 #include "plates/engraver/minerals/Heap.h"
-#include "plates/engraver/minerals/Vessel.h"
 
 using namespace tambrelle::engraver;
 
@@ -51,7 +51,7 @@ static const Subject subject{
             {.palette = palettes::stone, .seed = 9, .rough = 1.2, .depth = 14, .ragged = 1.6, .tone = 0.08});
         const LatheSurface bowl =
             lathe(p, {264, 288}, 62, {24, 44, 58, 65, 67}, {.tilt = 0.36, .palette = palettes::terracotta});
-        mouth(p, bowl, {.palette = palettes::terracotta, .wall = 5, .filling = palettes::chalk});
+        mouth(p, bowl, {.rim = 5, .palette = palettes::terracotta, .liquid = palettes::chalk, .level = 0.04});
         const Point level = centroid(bowl.ring(1));
         heap(p, level + Point{0, 12}, 54, 42, 0.5,
              {.palette = palettes::whiteflower,

@@ -1,8 +1,8 @@
 #include "plates/engraver/Ground.h"
+#include "plates/engraver/Lathe.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
 #include "plates/engraver/minerals/Block.h"
-#include "plates/engraver/minerals/Vessel.h"
 
 using namespace tambrelle::engraver;
 
@@ -34,7 +34,7 @@ static const Subject subject{
         lathe(p, lid, 34, {60, 60, 57, 46, 30, 16, 9}, pewter);
         lathe(p, lid + Point{0, -32}, 20, {5, 4, 8, 9.5, 7, 1}, pewter);
         tube(p, {{240, 140}, {258, 126}, {264, 106}}, {5, 5, 6.5}, {.palette = palettes::tin});
-        const BlockForm bar{
+        const CutBlockForm bar{
             .palette = palettes::tin, .leftTone = 0.36, .rightTone = 0.68, .topTone = 0.05, .spacing = 1.9};
         for (const Box& b :
              {Box{.front = {128, 300}, .left = {-58, -16}, .right = {40, -17}, .height = 20, .taper = 0.18},
@@ -43,7 +43,7 @@ static const Subject subject{
               .right = {46, -19},
               .height = 22,
               .taper = 0.18}}) {
-            block(p, b, bar);
+            cutBlock(p, b, bar);
             const Point seal = b.at(0.5, 0.5, 1);
             p.contour(ellipse(seal, 13, 5.5), 0.6);
             p.contour(ellipse(seal, 10, 4), 0.4);

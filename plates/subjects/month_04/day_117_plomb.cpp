@@ -1,8 +1,8 @@
 #include "plates/engraver/Ground.h"
+#include "plates/engraver/Lathe.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
 #include "plates/engraver/minerals/Block.h"
-#include "plates/engraver/minerals/Vessel.h"
 
 using namespace tambrelle::engraver;
 
@@ -10,14 +10,14 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_117_plomb", [](Plate& p) {
         ground(p, 58, 350, 288, 9);
-        const BlockForm pig{
+        const CutBlockForm pig{
             .palette = palettes::lead, .leftTone = 0.5, .rightTone = 0.8, .topTone = 0.26, .spacing = 1.9};
-        block(p, {.front = {140, 286}, .left = {-78, -20}, .right = {54, -24}, .height = 32, .taper = 0.2},
-              pig);
-        block(p, {.front = {244, 292}, .left = {-86, -22}, .right = {58, -26}, .height = 32, .taper = 0.2},
-              pig);
-        block(p, {.front = {184, 256}, .left = {-86, -22}, .right = {58, -26}, .height = 32, .taper = 0.2},
-              pig);
+        cutBlock(p, {.front = {140, 286}, .left = {-78, -20}, .right = {54, -24}, .height = 32, .taper = 0.2},
+                 pig);
+        cutBlock(p, {.front = {244, 292}, .left = {-86, -22}, .right = {58, -26}, .height = 32, .taper = 0.2},
+                 pig);
+        cutBlock(p, {.front = {184, 256}, .left = {-86, -22}, .right = {58, -26}, .height = 32, .taper = 0.2},
+                 pig);
         std::vector<Point> shot;
         for (int row = 0; row < 4; ++row)
             for (int k = 0; k < 9 - row; ++k)
