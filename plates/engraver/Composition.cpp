@@ -29,6 +29,36 @@ Plate::Window inkedWindow(const Plate& plate) {
     return {x0, y0, x1 - x0 + 1, y1 - y0 + 1};
 }
 
+// What is fainter than the window counts may go on beyond it: it fades out over this many units.
+constexpr double fadeBreadth = 8;
+
+Plate::Window widened(const Plate::Window& w) {
+    return Plate::windowOf({static_cast<double>(w.x) / scale, static_cast<double>(w.y) / scale,
+                            static_cast<double>(w.x + w.width) / scale,
+                            static_cast<double>(w.y + w.height) / scale},
+                           fadeBreadth);
+}
+
+// 1 within the window, 0 at the rim of the wider one.
+std::vector<float> fading(int from, int span, int wideFrom, int wideSpan) {
+    std::vector<float> shares;
+    for (int i = wideFrom; i < wideFrom + wideSpan; ++i) {
+        const int beyond = std::max({from - i, i - (from + span - 1), 0});
+        shares.push_back(static_cast<float>(maths::smooth(fadeBreadth * scale, 0, beyond)));
+    }
+    return shares;
+}
+
+void fade(Field (&channels)[3], const Plate::Window& window, const Plate::Window& wide) {
+    const std::vector<float> across = fading(window.x, window.width, wide.x, wide.width),
+                             down = fading(window.y, window.height, wide.y, wide.height);
+    for (Field& f : channels)
+        for (int y = 0; y < wide.height; ++y)
+            for (int x = 0; x < wide.width; ++x)
+                f(x, y) = 1 - (1 - f(x, y)) * across[static_cast<std::size_t>(x)] *
+                                  down[static_cast<std::size_t>(y)];
+}
+
 struct Painting {
     Field channel[3];
 };
@@ -117,15 +147,17 @@ Picture compose(const Plate& plate, const Composition& how) {
     picture.width = how.sheetWidth * how.pixels;
     picture.height = how.sheetHeight * how.pixels;
     picture.rgb.assign(static_cast<std::size_t>(picture.width * picture.height) * 3, 255);
-    const Plate::Window w = inkedWindow(plate);
-    if (w.width == 0)
+    const Plate::Window inked = inkedWindow(plate);
+    if (inked.width == 0)
         return picture;
-    const double k = std::min({how.largest, (how.sheetWidth - 2 * how.marginX) * scale / w.width,
-                               (how.sheetHeight - 2 * how.marginY) * scale / w.height});
+    const double k = std::min({how.largest, (how.sheetWidth - 2 * how.marginX) * scale / inked.width,
+                               (how.sheetHeight - 2 * how.marginY) * scale / inked.height});
     const double step = scale / (k * how.pixels); // source pixels a target pixel
-    const Painting painting = paint(plate, w, how.granulation);
-    const double originX = w.width / 2.0 - picture.width * step / 2;
-    const double originY = w.height / 2.0 - picture.height * step / 2;
+    const Plate::Window w = widened(inked);
+    Painting painting = paint(plate, w, how.granulation);
+    fade(painting.channel, inked, w);
+    const double originX = inked.x - w.x + inked.width / 2.0 - picture.width * step / 2;
+    const double originY = inked.y - w.y + inked.height / 2.0 - picture.height * step / 2;
     const std::vector<Tap> across = taps(picture.width, step, originX);
     const std::vector<Tap> down = taps(picture.height, step, originY);
     const int before = std::max(0, -across.front().first);

@@ -12,17 +12,27 @@ static const Subject subject{
         Quadruped ox = cattle();
         ox.neck = {{98, 122, 0, 31}, {82, 114, 0, 26}, {68, 106, 0, 19}};
         ox.head = {{62, 98}, 112, 55};
+        ox.ears = {};
         ox.bone = 1.2;
         ox.muscle = 1.08;
         ox.foreNear = {-10, -7};
         ox.foreFar = {6, 8};
         Body body = ox.body();
         Body::Style style = coat({palettes::ginger, palettes::brown, palettes::rose});
+        style.highlight = 0.05;
         style.marking = [](Point, double) { return 0.55; };
         horn(p, {{56, 86}, {44, 84}, {34, 74}, {32, 60}}, {4.4, 3.8, 2.6, 0.7}, {.tip = palettes::black});
         body.engrave(p, style);
         body.fur(p, {.spacing = 3.2, .length = 6, .width = 0.5, .from = 0.5, .spread = 8});
         ox.finish(p);
+        // The ear stands off the thick neck, below the horn.
+        Body ear;
+        ear.chain({{70, 95, 30, 4.2}, {80, 99, 32, 5.6}, {91, 105, 32, 4.6}, {98, 110, 32, 1.4}},
+                  {.blend = 3, .depth = 0.5});
+        ear.engrave(p, style);
+        const Path hollow = closedSpline({{74, 96}, {82, 97}, {93, 106}, {82, 102}}, 6);
+        p.flat(hollow, palettes::brown, 0.9);
+        p.stroke(spline({{72, 96}, {82, 101}, {95, 108}}, 6), Pen{.width = 0.8});
         tuftedTail(p, {{226, 108}, {238, 119}, {240, 152}, {237, 180}}, 3.4, palettes::ginger,
                    palettes::brown);
         // The neck yoke: a carved beam lying across the neck, its near end towards the viewer, the bow of

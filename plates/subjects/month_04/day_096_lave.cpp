@@ -10,13 +10,20 @@ static const Subject subject{
     "day_096_lave", [](Plate& p) {
         ground(p, 66, 336, 300, 5);
         // The plume: rolling clouds drawn from the far ones to the near.
-        const Palette smoke{0xF6F2EC, 0xCFC8C0, 0x8C837B};
-        const std::vector<std::pair<Point, double>> billows{
-            {{270, 70}, 24.0}, {{238, 58}, 30.0}, {{200, 70}, 28.0},  {{252, 92}, 24.0},
-            {{176, 94}, 18.0}, {{218, 94}, 26.0}, {{206, 118}, 19.0}, {{204, 138}, 15.0}};
+        const Palette smoke{0xF1ECE6, 0xB9B0A8, 0x6E645D};
+        std::vector<std::pair<Point, double>> billows{{{204, 138}, 14.0}};
+        for (int k = 0; k < 46; ++k) {
+            const double t = p.random.uniform(0.1, 1);
+            const Point middle = lerp({204, 132}, {236, 62}, t);
+            const double breadth = 10 + 44 * t, way = p.random.uniform(0, 360),
+                         out = p.random.uniform(0.3, 1);
+            billows.emplace_back(
+                middle + Point{breadth * direction(way).x, 0.5 * breadth * direction(way).y} * out,
+                (7 + 15 * t) * (1.25 - 0.6 * out));
+        }
         Path cloud; // how far the billows reach in every direction
         for (int k = 0; k < 180; ++k) {
-            const Point d = direction(2.0 * k), middle{216, 92};
+            const Point d = direction(2.0 * k), middle{220, 96};
             double reach = 4;
             for (const auto& [c, r] : billows) {
                 const double along = dot(c - middle, d), aside = cross(c - middle, d);
@@ -27,15 +34,17 @@ static const Subject subject{
         }
         ReliefForm steam{.palette = smoke, .contour = 0.7, .shade = 0.1};
         steam.crossFrom = 0.8;
+        const Noise wisps(23, 3, 0.6);
         steam.height = [&](Point at, double) {
-            double z = 0;
+            double z = 2.2 * wisps(at.x / 11, at.y / 11);
+            double rise = 0;
             for (const auto& [c, r] : billows) {
                 const Point q = at - c;
-                z = std::max(z, std::sqrt(std::max(0.0, r * r - dot(q, q))) + 0.22 * (at.y - 60));
+                rise = std::max(rise, std::sqrt(std::max(0.0, r * r - dot(q, q))) + 0.30 * (at.y - 60));
             }
-            return z;
+            return z + rise;
         };
-        steam.soften = 3;
+        steam.soften = 2;
         relief(p, cloud, steam);
         const Path cone = joined(
             joined(brokenEdge({62, 304}, {128, 226}, 2.5, 3), brokenEdge({128, 226}, {178, 140}, 2.5, 4)),

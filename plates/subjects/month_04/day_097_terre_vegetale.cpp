@@ -1,5 +1,6 @@
 #include "plates/engraver/Ground.h"
 #include "plates/engraver/Subject.h"
+#include "plates/engraver/Tube.h"
 #include "plates/engraver/botany/Flower.h"
 #include "plates/engraver/botany/Leaf.h"
 #include "plates/engraver/minerals/Block.h"
@@ -34,6 +35,11 @@ static const Subject subject{
                 spline({from, a, e}, 8),
                 {.width = 1.2, .swell = 0, .fade = 0.9, .colour = k % 3 == 0 ? sepia : Colour{0xF0E0BF}});
         }
+        // An earthworm leaves its hole.
+        p.ink(ellipse({166, 269}, 6, 4.5), sepia, 0.9);
+        tube(p, {{164, 268}, {152, 256}, {138, 262}, {130, 278}, {116, 282}, {106, 268}, {96, 264}},
+             {3.6, 4.4, 4.8, 4.8, 4.2, 1.6},
+             {.palette = {0xF8D2C4, 0xDB9280, 0x8C4A3E}, .spacing = 1.5, .hatchFrom = 0.2, .contour = 0.8});
         const Path top = sod.top();
         p.flat(top, palettes::leaf, 0.6);
         std::vector<Point> roots;

@@ -1,36 +1,46 @@
 #include "plates/engraver/Ground.h"
-#include "plates/engraver/Light.h"
 #include "plates/engraver/Subject.h"
-#include "plates/engraver/minerals/Block.h"
+#include "plates/engraver/minerals/Crystal.h"
+#include "plates/engraver/minerals/Stone.h"
 
 using namespace tambrelle::engraver;
 
 namespace {
 
-// Needles that bristle from one spot, fanned about a direction.
-void tuft(Plate& p, Point root, double degrees, double spread, double longest, int count, double thick) {
+// A crust of hair-fine needles along a joint from one point to another: white, thickest in its middle.
+void bloom(Plate& p, Point from, Point to, double longest) {
+    const int count = static_cast<int>(length(to - from) * 2.2);
     for (int k = 0; k < count; ++k) {
-        const double f = 2 * fraction(static_cast<std::size_t>(k), static_cast<std::size_t>(count)) - 1;
-        const double way = degrees + spread * f + p.random.around(spread * 0.2);
-        const double span = longest * (1 - 0.35 * f * f) * p.random.uniform(0.62, 1.0);
-        const Point d = direction(way), side = rightOf(d) * thick * p.random.uniform(0.7, 1.2);
-        const Point foot = root + rightOf(direction(degrees)) * (f * thick * 2.4);
-        const Point end = foot + d * span, neck = foot + d * (span - 3.2 * thick);
-        const Path lit{foot - side, neck - side, end, neck, foot},
-            dark{foot, neck, end, neck + side, foot + side};
-        p.knockOut(Path{foot - side, neck - side, end, neck + side, foot + side},
-                   {.halo = 0.4, .shade = 0.22});
-        const bool sideLit = dot(side, shadeSide) > 0;
-        p.flat(sideLit ? lit : dark, palettes::silver, 0.08);
-        p.flat(sideLit ? dark : lit, palettes::silver, 0.62);
-        p.stroke({foot, neck, end}, {.width = 0.45, .swell = 0, .fade = 0.1});
-        p.contour(Path{foot - side, neck - side, end, neck + side, foot + side}, 0.65);
+        const double t = p.random.uniform(), swell = std::sqrt(4 * t * (1 - t));
+        const Point root = lerp(from, to, t) + Point{p.random.around(2.5), p.random.around(2.5)};
+        const Point end = polar(root, -90 + p.random.normal(34),
+                                longest * (0.25 + 0.75 * swell) * p.random.uniform(0.4, 1));
+        const Path needle{root, lerp(root, end, 0.5) + Point{p.random.around(0.8), 0}, end};
+        p.stroke(moved(needle, {0.7, 0.5}),
+                 {.width = 1.2, .swell = 0, .fade = 0.5, .wobble = 0, .alpha = 0.7});
+        p.stroke(needle, {.width = 1.5, .swell = 0, .fade = 0.4, .wobble = 0, .colour = Colour{0xFFFEFA}});
     }
+}
+
+// A six-sided prism with a roof at either end, as saltpetre grows from its lye.
+void prism(Plate& p, Point centre, double scale, Vector3 turn) {
+    std::vector<Vector3> corners;
+    for (int k = 0; k < 6; ++k) {
+        const Point d = direction(60.0 * k + 30);
+        for (const double end : {-1.0, 1.0})
+            corners.push_back({d.x, end * 3.2, d.y});
+    }
+    for (const double end : {-1.0, 1.0})
+        for (const double side : {-0.5, 0.5})
+            corners.push_back({side, end * 3.9, 0});
+    crystal(p, corners, centre,
+            {.palette = {0xFFFFFF, 0xE6EAE8, 0x97A3A6}, .scale = scale, .turn = turn, .clear = 0.25});
 }
 
 } // namespace
 
-// Saltpetre: white needles that bloom from the damp stones of a cellar wall.
+// Saltpetre: a white fur of needles that blooms from the joints of a damp cellar wall; before it the
+// six-sided prisms that are boiled from it.
 static const Subject subject{
     "day_099_salpetre", [](Plate& p) {
         ground(p, 70, 334, 304, 4);
@@ -55,12 +65,20 @@ static const Subject subject{
         course(216, {84, 150, 214, 288});
         course(171, {70, 122, 186, 250});
         course(126, {92, 160, 222});
-        tuft(p, {122, 172}, -120, 50, 44, 11, 1.7);
-        tuft(p, {240, 262}, -30, 46, 66, 13, 2.1);
-        tuft(p, {196, 128}, -52, 44, 52, 11, 1.8);
-        tuft(p, {232, 216}, -60, 62, 92, 19, 2.5);
-        tuft(p, {130, 262}, -104, 60, 62, 15, 2.1);
-        tuft(p, {186, 262}, -84, 70, 80, 19, 2.4);
-        tuft(p, {216, 304}, -64, 62, 44, 13, 1.8);
-        tuft(p, {106, 306}, -96, 64, 38, 11, 1.7);
+        p.castShadows(false);
+        bloom(p, {92, 126}, {168, 128}, 15);
+        bloom(p, {186, 126}, {190, 168}, 11);
+        bloom(p, {74, 172}, {150, 172}, 20);
+        bloom(p, {150, 174}, {246, 172}, 26);
+        bloom(p, {96, 216}, {176, 217}, 22);
+        bloom(p, {186, 217}, {286, 216}, 30);
+        bloom(p, {72, 261}, {150, 262}, 24);
+        bloom(p, {150, 262}, {306, 261}, 22);
+        bloom(p, {72, 303}, {190, 305}, 18);
+        p.castShadows(true);
+        prism(p, {300, 262}, 17, {20, 14, 34});
+        prism(p, {214, 276}, 15, {14, 24, -38});
+        prism(p, {258, 250}, 20, {12, 20, 4});
+        prism(p, {246, 302}, 14, {24, 10, 76});
+        prism(p, {300, 306}, 11, {20, 30, -70});
     }};

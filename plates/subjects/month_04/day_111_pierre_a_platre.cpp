@@ -61,7 +61,7 @@ static const Subject subject{
               .depth = 26,
               .ragged = 0.8,
               .shade = 0.1});
-        const Path front = band(bowl.ring(1, 0, 180), reversed(bowl.ring(1, 0, 180, -5)));
+        const Path front = band(bowl.ring(1, 0, 180), bowl.ring(1, 0, 180, -5));
         p.knockOut(front, {.halo = 0.2, .shade = 0});
         p.flat(front, palettes::terracotta, 0.16);
         p.contour(front, 0.7);

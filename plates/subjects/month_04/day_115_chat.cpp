@@ -122,8 +122,6 @@ static const Subject subject{
             // Pale rim under the eye, shadow beside the nose.
             p.stroke(spline({at(4.2, 1.6), at(4.8, 5), at(4.2, 8)}, 5),
                      Pen{.width = 0.7, .swell = 0.4, .fade = 0.5});
-            p.stroke(spline({at(17.5, -2), at(23, -1.6), at(28, 0.5)}, 5),
-                     Pen{.width = 1.1, .swell = 0.1, .fade = 0.8});
             for (int j = 0; j < 9; ++j)
                 p.stroke(spline({at(26 + 0.3 * j, 1 + 2.0 * j), at(29 + 0.1 * j, 4 + 2.0 * j),
                                  at(32.5 - 0.5 * j, 8 + 2.0 * j)},

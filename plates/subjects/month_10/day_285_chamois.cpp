@@ -1,6 +1,5 @@
-#include "plates/engraver/Noise.h"
-#include "plates/engraver/Relief.h"
 #include "plates/engraver/Subject.h"
+#include "plates/engraver/minerals/Stone.h"
 #include "plates/engraver/zoology/Horn.h"
 #include "plates/engraver/zoology/Quadruped.h"
 
@@ -10,33 +9,25 @@ using namespace tambrelle::engraver;
 // band from the eye to the nose; all four feet on a crag.
 static const Subject subject{
     "day_285_chamois", [](Plate& p) {
-        const Path crag = closedSpline({{62, 220},
-                                        {72, 210},
-                                        {92, 206},
-                                        {116, 208},
-                                        {136, 213},
-                                        {160, 210},
-                                        {188, 206},
-                                        {220, 208},
-                                        {236, 218},
-                                        {246, 236},
-                                        {264, 246},
-                                        {222, 252},
-                                        {150, 249},
-                                        {84, 254},
-                                        {40, 247},
-                                        {54, 236}},
-                                       3);
-        ReliefForm rock;
-        rock.palette = palettes::stone;
-        rock.height = [broad = Noise(31, 3, 0.5), fine = Noise(8, 3, 0.6)](Point q, double depth) {
-            return std::min(3 + depth * 1.25,
-                            17 + 7 * std::fabs(broad((q.x + 0.7 * q.y) / 34, (q.y - 0.3 * q.x) / 17))) +
-                   0.45 * fine(q.x / 9, q.y / 6);
-        };
-        rock.creases = true;
-        rock.hatchFrom = 0.34;
-        relief(p, crag, rock);
+        stone(p,
+              {{58, 224},
+               {78, 207},
+               {118, 208},
+               {140, 216},
+               {176, 208},
+               {222, 206},
+               {244, 214},
+               {252, 230},
+               {276, 240},
+               {284, 258},
+               {294, 268},
+               {226, 274},
+               {150, 269},
+               {84, 276},
+               {26, 268},
+               {36, 250},
+               {54, 240}},
+              {.seed = 5, .facets = 12, .rough = 2.6, .grain = 20, .depth = 30, .ragged = 2.4});
 
         Quadruped goat;
         goat.ground = 212;

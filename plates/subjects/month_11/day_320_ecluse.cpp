@@ -1,12 +1,17 @@
 #include "plates/engraver/Face.h"
+#include "plates/engraver/Ground.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/carpentry/Wood.h"
+
+#include <array>
 
 using namespace tambrelle::engraver;
 
 namespace {
 
 constexpr double middle = 200;
+// How far each course of a wall comes towards the viewer, as a share of its drawn length.
+constexpr std::array<double, 7> reach{0.98, 0.86, 1.04, 0.90, 1.08, 0.94, 1.12};
 
 // Both walls run from the viewer to the gates.
 void walls(Plate& p) {
@@ -14,21 +19,31 @@ void walls(Plate& p) {
         const auto at = [s](double x, double y) { return Point{middle + s * x, y}; };
         const Point nearTop = at(136, 160), nearFoot = at(136, 346), farTop = at(46, 192),
                     farFoot = at(46, 280);
-        face(p, {nearTop, farTop, farFoot, nearFoot},
+        // The viewer's end is left toothed, course by course, where the wall would go on.
+        constexpr std::size_t courses = reach.size();
+        Path outline{farTop, farFoot};
+        for (std::size_t j = courses; j-- > 0;)
+            for (const double end : {1.0, 0.0}) {
+                const double f = (static_cast<double>(j) + end) / courses;
+                outline.push_back(lerp(lerp(farTop, farFoot, f), lerp(nearTop, nearFoot, f), reach[j]));
+            }
+        face(p, outline,
              {.tone = s < 0 ? 0.56 : 0.30, .palette = palettes::stone, .spacing = 2.4, .gradient = 0.08});
-        constexpr int courses = 7;
-        for (int j = 0; j < courses; ++j) {
+        for (std::size_t j = 0; j < courses; ++j) {
             const double f0 = static_cast<double>(j) / courses, f1 = static_cast<double>(j + 1) / courses;
             const Point a = lerp(nearTop, nearFoot, f1), b = lerp(farTop, farFoot, f1);
             const Point c = lerp(nearTop, nearFoot, f0), d = lerp(farTop, farFoot, f0);
-            p.stroke({a, b}, Pen{.width = 0.8, .swell = 0, .fade = 0, .wobble = 0.3});
+            p.stroke({lerp(b, a, std::min(reach[j], reach[std::min(j + 1, courses - 1)])), b},
+                     Pen{.width = 0.8, .swell = 0, .fade = 0, .wobble = 0.3});
             for (int k = 0; k < 5; ++k) {
-                const double q = maths::pow((k + 0.5 + 0.5 * (j % 2)) / 5.2, 0.8);
+                const double q = maths::pow((k + 0.5 + 0.5 * static_cast<double>(j % 2)) / 5.2, 0.8);
+                if (1 - q > reach[j])
+                    continue;
                 p.stroke({lerp(a, b, q), lerp(c, d, q)}, Pen{.width = 0.7, .swell = 0, .fade = 0});
             }
         }
         // Coping.
-        face(p, {at(136, 142), at(46, 180), at(46, 194), at(136, 163)},
+        face(p, {at(138, 138), at(46, 178), at(46, 193), at(135, 161), at(131, 150)},
              {.tone = 0.14, .palette = palettes::stone, .contour = 0.9});
     }
 }
@@ -56,21 +71,51 @@ void gates(Plate& p) {
 }
 
 void water(Plate& p) {
-    const Path surface{
-        {middle - 136, 346}, {middle - 46, 280}, {middle, 298}, {middle + 46, 280}, {middle + 136, 346}};
+    // Towards the viewer the water ends in tongues, and ripples go on beyond them.
+    Path surface = spline({{middle - 148, 354},
+                           {middle - 96, 362},
+                           {middle - 52, 352},
+                           {middle, 364},
+                           {middle + 44, 353},
+                           {middle + 98, 363},
+                           {middle + 148, 354}},
+                          10);
+    surface = joined(surface, {{middle + 46, 280}, {middle, 298}, {middle - 46, 280}});
     p.knockOut(surface, {.halo = 0, .shade = 0});
     p.flat(surface, palettes::water, 0.42);
-    const Plate::Clip clip(p, surface);
-    for (int k = 0; k < 70; ++k) {
-        const double y = p.random.uniform(292, 345), f = (y - 278) / 68;
+    const auto ripple = [&](double y) {
+        const double f = (y - 278) / 68;
         const double x = middle + p.random.around(1) * (30 + 106 * f), w = p.random.uniform(8, 22) * f + 4;
         p.stroke(spline({{x - w, y}, {x - w * 0.3, y - 1.2}, {x + w * 0.4, y + 0.6}, {x + w, y}}, 6),
                  Pen{.width = 0.8 * f + 0.35, .swell = 0.5, .fade = 0.5});
+    };
+    {
+        const Plate::Clip clip(p, surface);
+        for (int k = 0; k < 78; ++k)
+            ripple(p.random.uniform(306, 358));
     }
-    for (int k = 0; k < 9; ++k) { // the leak foams
-        const double x = middle + p.random.around(9);
-        p.stroke(spline({{x, 288}, {x + p.random.around(3), 302}, {x + p.random.around(8), 316}}, 6),
-                 Pen{.width = 0.7, .swell = 0, .fade = 0.7});
+    for (int k = 0; k < 9; ++k)
+        ripple(p.random.uniform(358, 366));
+    // Through the sluices of the gates the water shoots down and foams.
+    for (const double s : {-1.0, 1.0}) {
+        const auto at = [s](double x, double y) { return Point{middle + s * x, y}; };
+        const Path fall = joined(spline({at(12, 266), at(13, 280), at(8, 296), at(-2 + 4 * s, 316)}, 8),
+                                 spline({at(44, 318), at(38, 294), at(34, 276), at(32, 260)}, 8));
+        p.knockOut(fall, {.halo = 0.4, .shade = 0});
+        p.flat(fall, palettes::water, 0.12);
+        for (int k = 0; k < 9; ++k) {
+            const double t = (k + 0.5) / 9;
+            p.stroke(spline({lerp(at(12, 266), at(32, 260), t), lerp(at(13, 280), at(36, 277), t),
+                             lerp(at(6, 312), at(44, 314), t) + Point{0, p.random.around(5)}},
+                            8),
+                     Pen{.width = 0.7, .swell = 0.1, .fade = 0.3});
+        }
+        for (int k = 0; k < 11; ++k) {
+            const Point foam = at(4 + 4.2 * k, 316 + p.random.around(4));
+            const Path bubble = ellipse(foam, p.random.uniform(4, 7), p.random.uniform(3, 4.5), 20);
+            p.knockOut(bubble, {.halo = 0, .shade = 0});
+            p.contour(bubble, 0.6);
+        }
     }
 }
 
@@ -80,6 +125,8 @@ void water(Plate& p) {
 // mitre.
 static const Subject subject{"day_320_ecluse", [](Plate& p) {
                                  walls(p);
+                                 grassTufts(p, 56, 100, 140, 5);
+                                 grassTufts(p, 296, 338, 140, 5);
                                  gates(p);
                                  water(p);
                              }};

@@ -12,7 +12,7 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_325_loutre", [](Plate& p) {
         constexpr Palette fur{0xC4A078, 0x7F5A38, 0x412A1A}, throat{0xF4EAD8, 0xD8C6A6, 0x96805E};
-        waterLines(p, 30, 330, 218, 7);
+        waterLines(p, 26, 306, 218, 7);
         Body body;
         const double ground = 207;
         body.chain(
@@ -20,9 +20,9 @@ static const Subject subject{
             {.blend = 16, .coat = 8});
         body.chain({{226, 176, 0, 20},
                     {252, 198, -4, 14},
-                    {282, 216, -4, 9.5},
-                    {312, 222, -4, 5},
-                    {330, 219, -4, 1.6}},
+                    {272, 212, -4, 9.5},
+                    {292, 211, -4, 5.5},
+                    {306, 200, -4, 1.6}},
                    {.blend = 12});
         body.chain({{110, 150, 0, 20}, {96, 132, 0, 17}, {88, 120, 0, 16}}, {.blend = 14});
         // Head.
@@ -47,7 +47,7 @@ static const Subject subject{
         Body::Style style;
         style.palettes = {fur, throat, palettes::black};
         style.contour = 0.95;
-        style.highlight = 0.05;
+        style.highlight = 0.02;
         style.cuts.from = 0.34;
         style.marking = [](Point q, double) {
             const double line = 124 + (q.x - 52) * 0.42;
@@ -56,16 +56,6 @@ static const Subject subject{
         };
         body.engrave(p, style);
         body.fur(p, {.spacing = 2.5, .length = 9, .width = 0.75, .from = 0.12, .spread = 8});
-        // Wet points of the coat.
-        for (int k = 0; k < 60; ++k) {
-            const Point at{p.random.uniform(108, 250), p.random.uniform(124, 196)};
-            if (!body.toneAt(at))
-                continue;
-            const Point way = body.coatAt(at);
-            for (const double turn : {-14.0, 14.0})
-                p.stroke({rotate(at - way * 6, turn, at), at - way * 2, at + way * 3},
-                         Pen{.width = 0.9, .swell = 0.2, .fade = 0.7});
-        }
         for (const Point& foot :
              {Point{92, ground}, Point{113, ground}, Point{197, ground}, Point{218, ground}})
             toes(p, foot + Point{1, 0}, {.length = 19, .height = 7.5, .toes = 4, .claws = 2});
@@ -125,6 +115,6 @@ static const Subject subject{
             p.stroke(spline({{55, 123.0 + k}, {44, 126.0 + 3 * k}, {36.0 + 2 * k, 134.0 + 5 * k}}, 6),
                      Pen{.width = 0.5, .swell = 0, .fade = 0.9});
         }
-        tambrelle::engraver::ground(p, 70, 322, ground - 1, 4);
-        grassTufts(p, 150, 320, ground + 6, 10);
+        tambrelle::engraver::ground(p, 70, 300, ground - 1, 4);
+        grassTufts(p, 150, 300, ground + 6, 10);
     }};
