@@ -30,7 +30,7 @@ Plate::Window inkedWindow(const Plate& plate) {
 }
 
 // What is fainter than the window counts may go on beyond it: it fades out over this many units.
-constexpr double fadeBreadth = 8;
+constexpr double fadeBreadth = 4;
 
 Plate::Window widened(const Plate::Window& w) {
     return Plate::windowOf({static_cast<double>(w.x) / scale, static_cast<double>(w.y) / scale,
