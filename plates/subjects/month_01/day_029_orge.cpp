@@ -21,7 +21,8 @@ static const Subject subject{
                     const double q = (k + (side > 0 ? 0.5 : 0)) / joints, way = angleAlong(curve, q);
                     const Point tip = polar(along(curve, q), way + side * 20, 25 * size);
                     // The awns fall in with the ear's tip as a sheaf.
-                    const double fall = angleAlong(curve, 1) + side * (9 - 6 * q) + p.random.around(2);
+                    const double fall = way + std::clamp(angleAlong(curve, 1) - way, -38.0, 38.0) +
+                                        side * (9 - 6 * q) + p.random.around(2);
                     const double reach = (122 - 52 * q) * size;
                     p.stroke(spline({tip, polar(tip, (way + fall) / 2, reach * 0.5),
                                      polar(polar(tip, (way + fall) / 2, reach * 0.5), fall, reach * 0.5)}),

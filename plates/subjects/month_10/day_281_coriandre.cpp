@@ -14,8 +14,8 @@ static const Subject subject{
     "day_281_coriandre", [](Plate& p) {
         const LeafKind thread{.build = LeafKind::Build::frond,
                               .petiole = 0.2,
-                              .leaflets = 5,
-                              .leafletWidth = 0.06,
+                              .leaflets = 3,
+                              .leafletWidth = 0.08,
                               .subdivided = 2};
         const LeafKind fan{.build = LeafKind::Build::trifoliate,
                            .shape = shapes::obovate,
@@ -27,7 +27,7 @@ static const Subject subject{
                  .stems = {-58, 62, 0},
                  .stemRadius = 2.6,
                  .leaf = thread,
-                 .leaves = 4,
+                 .leaves = 3,
                  .leavesFrom = 0.24,
                  .leavesTo = 0.66,
                  .leafLength = 76,

@@ -44,7 +44,7 @@ static const Subject subject{
         strapLeaf(p, {182, 328}, -160, 100, 7, 44, palettes::oldleaf);
         strapLeaf(p, {211, 312}, -20, 74, 7, 36, palettes::oldleaf);
         fatEar({{198, 352}, {172, 312}, {150, 272}}, 1.0, 9);
-        fatEar({{204, 352}, {214, 290}, {236, 250}}, 1.3, 10);
+        fatEar({{204, 352}, {214, 290}, {236, 250}}, 1.16, 10);
         // Cut across: six grains in a star.
         const Point c{330, 312};
         for (int k = 0; k < 6; ++k) {
