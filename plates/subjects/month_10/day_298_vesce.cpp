@@ -18,20 +18,20 @@ static const Subject subject{
                                .leaflets = 5,
                                .leafletWidth = 0.17,
                                .terminal = false};
-        const Path curve = stem(p, {{190, 350}, {212, 270}, {190, 180}, {204, 50}}, {3.4, 2.6, 1.6});
+        const Path curve = stem(p, {{190, 350}, {212, 270}, {190, 180}, {204, 96}}, {3.4, 2.6, 1.6});
         for (const auto& [q, a, size] : {std::tuple{0.1, -12.0, 138.0},
                                          {0.26, -166.0, 144.0},
-                                         {0.44, -16.0, 138.0},
-                                         {0.62, -160.0, 126.0},
-                                         {0.8, -28.0, 104.0},
-                                         {0.97, -172.0, 66.0}})
+                                         {0.38, -12.0, 138.0},
+                                         {0.56, -164.0, 126.0},
+                                         {0.76, -14.0, 104.0},
+                                         {0.99, -78.0, 62.0}})
             growLeaf(p, along(curve, q), a, size, 25, pinnate, a < -90 ? -12 : 12);
-        for (const auto& [q, side] : {std::tuple{0.44, 1}, {0.62, -1}, {0.8, 1}})
-            for (const double lift : {-62.0, -22.0}) {
-                const double way = side > 0 ? lift - 12 : -168 - lift;
-                const Point at = along(curve, q), to = polar(at, way, 20);
-                stem(p, {at, lerp(at, to, 0.5), to}, {1.7, 1.5});
-                peaFlower(p, to, side > 0 ? -34 : -146, 54, mix(palettes::purple, palettes::magenta, 0.5),
+        // A pair in an axil: they look away from each other.
+        for (const double q : {0.44, 0.66, 0.88})
+            for (const int side : {-1, 1}) {
+                const Point at = along(curve, q), to = polar(at, side > 0 ? -52 : -128, 15);
+                stem(p, {at, lerp(at, to, 0.5), to}, {1.8, 1.6});
+                peaFlower(p, to, side > 0 ? -14 : -166, 44, mix(palettes::purple, palettes::magenta, 0.4),
                           side, palettes::crimson);
             }
         for (const auto& [q, side] : {std::tuple{0.26, -1}, {0.1, 1}}) {
