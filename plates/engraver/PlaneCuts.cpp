@@ -31,6 +31,9 @@ Field cutInk(const Plate::Window& window, const Field& heights, const Field& ton
              const PlaneCuts& cuts) {
     const int w = window.width, h = window.height;
     Field ink(w, h);
+    const auto& all = tones.cells();
+    if (std::none_of(all.begin(), all.end(), [&cuts](float t) { return static_cast<double>(t) > cuts.from; }))
+        return ink;
     Field z = heights;
     blur(z, 1.6);
     const Noise noise(cuts.seed);

@@ -83,10 +83,14 @@ RoughBlock roughBlock(Plate& plate, const Box& box, const RoughBlockForm& form) 
     const auto grain = [&](Point p) {
         return form.rough * noise(p.x / (form.grain * form.flat), p.y / form.grain);
     };
+    // Far from every limit between beds the limits' waves cannot matter.
+    const double reach = (3 * form.wavy + 4) / box.height;
     const auto level = [&](Point p, Point along) {
         const double straight = levelOn(p, box.front, along, box.height);
-        return form.beds.size() < 2 ? straight
-                                    : straight + form.wavy / box.height * waves(p.x / 26, p.y / 200);
+        for (std::size_t k = 0; k + 1 < form.beds.size(); ++k)
+            if (std::fabs(straight - form.beds[k].to) < reach)
+                return straight + form.wavy / box.height * waves(p.x / 26, p.y / 200);
+        return straight;
     };
     const auto draw = [&](const Path& outline, Point along, double tone) {
         r.tone = tone;

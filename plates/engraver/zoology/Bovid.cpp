@@ -15,7 +15,7 @@ Quadruped cattle() {
     q.neck = {{98, 120, 0, 28}, {82, 112, 0, 22}, {68, 103, 0, 16}};
     q.head = {{61, 94}, 118, 53};
     q.headBuild = &bovineHead();
-    q.ears = {{.at = {0.08, 0.02}, .z = 0.26, .degrees = -22, .length = 23, .width = 4.6, .bend = 34}};
+    q.ears = {{.at = {0.08, 0.02}, .z = 0.42, .degrees = 12, .length = 23, .width = 4.6, .bend = 34}};
     q.elbow = {95, 152};
     q.hip = {214, 118};
     q.shoulder = 19;

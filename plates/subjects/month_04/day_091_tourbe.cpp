@@ -50,7 +50,8 @@ static const Subject subject{
         for (int layer = 0; layer < 4; ++layer)
             for (int row = 3 - layer; row >= 0; --row)
                 for (const double place : {1.06, 0.0}) {
-                    if (layer == 3 && place > 0)
+                    const bool within = row > 0 && row < 3 - layer; // hidden by those before and above it
+                    if (place > 0 && (within || layer == 3))
                         continue;
                     const double r = row * 1.06 + 0.53 * layer + p.random.around(0.06);
                     const double l = place + (layer == 3 ? 0.5 : 0.0) + p.random.around(0.05);

@@ -84,8 +84,8 @@ static const Subject subject{
             lathe(p, foot, 132, {44, 50, 57, 64},
                   {.tilt = 0.3,
                    .palette = zinc,
-                   .lines = Lines::along,
-                   .hatchFrom = 0.36,
+                   .spacing = 2.3,
+                   .hatchFrom = 0.4,
                    .shade = 0.5,
                    .texture = [&](double u, double angle, double tone) {
                        return tone - 0.02 + 0.13 * spangle(angle * 5.5, u * 8) + 0.4 * beads(u);
