@@ -192,9 +192,10 @@ Picture compose(const Plate& plate, const Composition& how) {
                 ++s;
             }
             unsigned char* to = &picture.rgb[static_cast<std::size_t>(y * picture.width) * 3];
-            for (std::size_t x = 0; x < sums.size(); ++x)
-                to[x * 3 + static_cast<std::size_t>(c)] =
-                    static_cast<unsigned char>(std::clamp(sums[x], 0.0F, 1.0F) * 255.0F + 0.5F);
+            for (std::size_t x = 0; x < sums.size(); ++x) {
+                const float level = std::clamp(sums[x], 0.0F, 1.0F) * 255.0F + 0.5F;
+                to[x * 3 + static_cast<std::size_t>(c)] = static_cast<unsigned char>(level);
+            }
         }
     }
     return picture;

@@ -2,6 +2,8 @@
 
 #include "plates/engraver/Maths.h"
 
+#include <array>
+
 namespace tambrelle::engraver {
 
 namespace {
@@ -15,9 +17,7 @@ void addScaled(float* to, const float* from, float factor, std::size_t count) {
 template <class Pass>
 void separably(Field& field, const Pass& pass) {
     const int w = field.width(), h = field.height();
-    std::vector<float> line, out;
-    line.resize(static_cast<std::size_t>(w));
-    out.resize(line.size());
+    std::vector<float> line(static_cast<std::size_t>(w)), out(line);
     for (int y = 0; y < h; ++y) {
         for (int x = 0; x < w; ++x)
             line[static_cast<std::size_t>(x)] = field(x, y);
@@ -27,8 +27,9 @@ void separably(Field& field, const Pass& pass) {
     }
     // Columns are taken sixteen at a time, so that memory is walked along its rows.
     constexpr int bundle = 16;
-    std::vector<std::vector<float>> lines(bundle, std::vector<float>(static_cast<std::size_t>(h)));
-    out.resize(static_cast<std::size_t>(h));
+    std::array<std::vector<float>, bundle> lines;
+    lines.fill(std::vector<float>(static_cast<std::size_t>(h)));
+    out.assign(static_cast<std::size_t>(h), 0.0F);
     for (int x0 = 0; x0 < w; x0 += bundle) {
         const int n = std::min(bundle, w - x0);
         for (int y = 0; y < h; ++y)
@@ -74,15 +75,17 @@ void convolve(Field& field, const std::vector<float>& kernel) {
     for (int y = 0; y < h; ++y) {
         float* out = &field(0, y);
         std::fill(out, out + w, 0.0F);
-        for (int k = -radius; k <= radius; ++k)
-            addScaled(out, heldRow(across, y + k), kernel[static_cast<std::size_t>(k + radius)], n);
+        int row = y - radius;
+        for (const float weight : kernel)
+            addScaled(out, heldRow(across, row++), weight, n);
     }
 }
 
 void boxAcross(const std::vector<float>& in, std::vector<float>& out, int radius,
                std::vector<float>& padded) {
-    const std::size_t n = in.size(), breadth = 2 * static_cast<std::size_t>(radius) + 1;
-    pad(in, padded, static_cast<std::size_t>(radius) + 1);
+    const auto reach = static_cast<std::size_t>(radius);
+    const std::size_t n = in.size(), breadth = 2 * reach + 1;
+    pad(in, padded, reach + 1);
     double sum = 0;
     for (std::size_t k = 1; k <= breadth; ++k)
         sum += padded[k];
@@ -148,7 +151,8 @@ void blur(Field& field, double sigma) {
     }
     // Three boxes of radius r have the variance r (r + 1).
     const int radius = static_cast<int>(std::floor(std::sqrt(sigma * sigma + 0.25) - 0.5 + 0.5));
-    std::vector<float> line(static_cast<std::size_t>(field.width())), other(line.size()), padded;
+    const auto n = static_cast<std::size_t>(field.width());
+    std::vector<float> line(n), other(n), padded;
     for (int y = 0; y < field.height(); ++y) {
         line.assign(&field(0, y), &field(0, y) + field.width());
         boxAcross(line, other, radius, padded);
