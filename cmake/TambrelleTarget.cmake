@@ -27,6 +27,9 @@ elseif(TAMBRELLE_FUZZ)
   target_compile_options(tambrelle_options INTERFACE
     -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize=vptr -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(tambrelle_options INTERFACE -fsanitize=address,undefined)
+elseif(TAMBRELLE_COVERAGE)
+  target_compile_options(tambrelle_options INTERFACE --coverage -fprofile-abs-path)
+  target_link_options(tambrelle_options INTERFACE --coverage)
 else()
   # GCC 12 knows the third level of fortification; an older compiler takes it for the second.
   target_compile_options(tambrelle_options INTERFACE

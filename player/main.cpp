@@ -15,7 +15,6 @@
 #include <optional>
 #include <string_view>
 
-#include <sys/prctl.h>
 
 namespace {
 
@@ -49,8 +48,6 @@ int main(int argc, char** argv) {
         return usageError;
     }
     takeTerminationAsARequest();
-    // The chime is the calendar's and ends with it.
-    prctl(PR_SET_PDEATHSIG, SIGTERM);
     endProcessAfter(patience);
     try {
         const Sound sound = readSoundFile(argv[2]);

@@ -2,6 +2,7 @@
 #include "platform/freedesktop/Display.h"
 #include "platform/freedesktop/EmojiFont.h"
 #include "platform/freedesktop/FreedesktopPlatform.h"
+#include "platform/freedesktop/TerminationSignals.h"
 #include "ui/TambrelleApp.h"
 
 #include <QApplication>
@@ -22,6 +23,10 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName(QStringLiteral("Tambrelle"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tambrelle.Tambrelle"));
     QApplication::setQuitOnLastWindowClosed(false);
+
+    const TerminationSignals termination;
+    // Not by way of the windows' consent: who sends a signal does not wait for it.
+    QObject::connect(&termination, &TerminationSignals::received, &application, [] { QApplication::exit(); });
 
     ApplicationService service;
     std::optional<FreedesktopPlatform> platform;

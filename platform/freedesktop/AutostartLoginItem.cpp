@@ -96,7 +96,9 @@ bool AutostartLoginItem::writeEntry() const {
         return false;
     // A new file that is renamed: a desktop that reads meanwhile never sees half an entry.
     QSaveFile entry(path);
-    return entry.open(QIODevice::WriteOnly) && entry.write(entryText(program)) >= 0 && entry.commit();
+    // Flushed first: on a full disk the toolkit commits what it could not write.
+    return entry.open(QIODevice::WriteOnly) && entry.write(entryText(program)) >= 0 && entry.flush() &&
+           entry.commit();
 }
 
 } // namespace tambrelle

@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QStorageInfo>
 
 namespace tambrelle {
 
@@ -12,6 +13,18 @@ namespace {
 
 /// Eight short lines need less than 1 KB; a file beyond this is not ours and is not worth the memory.
 constexpr qint64 largestSaneFile = 64LL * 1024;
+
+/// Whether there is room for a new file beside the old one. On a full disk the toolkit would put an empty
+/// file in its place and report no error.
+bool hasRoom(const QString& path) {
+    const QFileInfo file(path);
+    // The first folder on the way up that exists: ours is made with the first file.
+    QString folder = file.absolutePath();
+    while (!QFileInfo::exists(folder) && folder != QLatin1String("/"))
+        folder = QFileInfo(folder).absolutePath();
+    const QStorageInfo storage(folder);
+    return !storage.isValid() || storage.bytesAvailable() >= largestSaneFile;
+}
 
 std::unique_ptr<QSettings> openStore(const QString& path) {
     return std::make_unique<QSettings>(path, QSettings::IniFormat);
@@ -87,10 +100,19 @@ QVariant IniUserDefaults::value(const QString& key) const {
 
 void IniUserDefaults::set(const QString& key, const QVariant& value) {
     assigned.insert(key, value);
+    if (!hasRoom(path))
+        return; // with the next assignment, perhaps
     if (settings)
-        settings->setValue(key, value);
+        store();
     else
         replaceDamagedStore();
+}
+
+void IniUserDefaults::store() {
+    for (auto entry = assigned.cbegin(); entry != assigned.cend(); ++entry) {
+        if (settings->value(entry.key()) != *entry)
+            settings->setValue(entry.key(), *entry);
+    }
 }
 
 void IniUserDefaults::replaceDamagedStore() {
@@ -100,8 +122,7 @@ void IniUserDefaults::replaceDamagedStore() {
     if (QFile::exists(path) && !QFile::rename(path, aside))
         return;
     settings = openStore(path);
-    for (auto entry = assigned.cbegin(); entry != assigned.cend(); ++entry)
-        settings->setValue(entry.key(), entry.value());
+    store();
 }
 
 } // namespace tambrelle

@@ -14,7 +14,8 @@ namespace tambrelle {
 /// Preferences in one INI file, written from the event loop by way of a new file that is renamed. A file that
 /// is damaged, absurdly large or no plain file reads as empty and is set aside, under its name with
 /// ".damaged", by the first assignment; one that is unreadable reads as empty. What is set stays readable
-/// here even when it cannot be written.
+/// here even when it cannot be written; what found a full disk is written with the next assignment that
+/// does not.
 class IniUserDefaults final : public UserDefaults {
 public:
     /// `path` need not exist; its folder is made at the first write.
@@ -38,6 +39,7 @@ private:
     [[nodiscard]] QVariant value(const QString& key) const;
     void set(const QString& key, const QVariant& value);
 
+    void store();
     void replaceDamagedStore();
 
     QString path;

@@ -5,6 +5,11 @@
 #include <QProcess>
 
 #include <chrono>
+#include <csignal>
+#include <cstdlib>
+
+#include <sys/prctl.h>
+#include <unistd.h>
 
 namespace tambrelle {
 
@@ -47,6 +52,13 @@ void SpawnedAudioPlayer::play(const QString& file, double volume, Failure onFail
     silence();
     auto* const player = new QProcess(this);
     sounding = player;
+    // The chime is the calendar's and ends with it, also where the calendar is gone before the player has
+    // begun.
+    player->setChildProcessModifier([calendar = ::getpid()] {
+        ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+        if (::getppid() != calendar)
+            ::_exit(EXIT_SUCCESS);
+    });
     player->setStandardInputFile(QProcess::nullDevice());
     player->setStandardOutputFile(QProcess::nullDevice());
     // Queued: a program that can't be started may say so from within start().

@@ -1,0 +1,61 @@
+#include "platform/freedesktop/TerminationSignals.h"
+
+#include <QSocketNotifier>
+
+#include <array>
+#include <csignal>
+#include <cstdint>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+namespace tambrelle {
+
+namespace {
+
+constexpr std::array taken{SIGTERM, SIGINT, SIGHUP};
+
+/// What the handler writes to; a signal may come at any instruction, so that it does no more than that.
+volatile std::sig_atomic_t counter = -1;
+
+void note(int /*signal*/) {
+    constexpr std::uint64_t one = 1;
+    [[maybe_unused]] const auto written = ::write(counter, &one, sizeof one);
+    ::alarm(1);
+}
+
+void handle(int signal, void (*handler)(int)) {
+    struct sigaction before {};
+    if (::sigaction(signal, nullptr, &before) != 0 || before.sa_handler == SIG_IGN)
+        return;
+    struct sigaction action {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    ::sigaction(signal, &action, nullptr);
+}
+
+} // namespace
+
+TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) {
+    const int descriptor = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    if (descriptor < 0)
+        return; // out of descriptors: the signals end the program as they always do
+    counter = descriptor;
+    notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [this] {
+        notifier->setEnabled(false);
+        emit received();
+    });
+    for (const int signal : taken)
+        handle(signal, note);
+}
+
+TerminationSignals::~TerminationSignals() {
+    if (notifier == nullptr)
+        return;
+    for (const int signal : taken)
+        handle(signal, SIG_DFL);
+    ::close(counter);
+    counter = -1;
+}
+
+} // namespace tambrelle

@@ -1,0 +1,165 @@
+#!/usr/bin/python3
+"""The services beside the program are killed again and again at random moments: it stays, and nothing comes twice."""
+
+import datetime
+import json
+import os
+import pathlib
+import signal
+import time
+
+from harness import DesktopTest, main, until
+from harness.bus import Bus
+from harness.chance import chance
+
+TIMES = 100
+NOON = "2025-11-15 12:00:00"
+LINE = "🌫️ 23 Brumaire · Tridi · 5:00"
+NOTIFICATIONS = "org.freedesktop.Notifications"
+SILENT = {"hasLaunchedBefore": "true", "soundEnabled": "false", "notificationsConfigured": "true",
+          "notificationsEnabled": "true", "notificationHour": "8", "notificationMinute": "0"}
+NO_NOTIFICATIONS = {"notificationsConfigured": "true", "notificationsEnabled": "false"}
+PLAYER = "tambrelle-playe"   # the kernel keeps 15 bytes of a command's name
+
+
+class ServicesDie(DesktopTest):
+    limit = 200
+
+    def children(self, program):
+        return pathlib.Path(f"/proc/{program.pid}/task/{program.pid}/children").read_text().split()
+
+
+class Notifications(ServicesDie):
+    def start_server(self):
+        script = pathlib.Path(__file__).with_name("notification_server.py")
+        copy = self.desktop.directory / script.name
+        copy.write_bytes(script.read_bytes())
+        server = self.desktop.processes.start("notification-server", "/usr/bin/python3", "-B", copy, self.record)
+        until("the notification service is there", lambda: self.desktop.bus.has_owner(NOTIFICATIONS))
+        return server
+
+    def end_all_servers(self):
+        """The one of ours, and those that the bus may start when the program asks for one."""
+        def none_is_left():
+            if not self.desktop.bus.has_owner(NOTIFICATIONS):
+                return True
+            os.kill(self.desktop.bus.pid_of(NOTIFICATIONS), signal.SIGKILL)
+            return False
+        until("no notification service is left", none_is_left)
+
+    def titles(self):
+        if not self.record.exists():
+            return []
+        return [json.loads(line)["summary"] for line in self.record.read_text(encoding="utf-8").splitlines()]
+
+    def test_no_morning_comes_twice_and_the_last_one_comes(self):
+        random = chance()
+        self.record = self.desktop.directory / "notifications"
+        day = datetime.date(2025, 11, 15)
+        self.desktop.clock.set(f"{day} 07:00:00")
+        program = self.start_program(preferences=SILENT)
+        until("the line is there", lambda: any("Brumaire" in text for text in program.texts()))
+        mornings = 0
+        for turn in range(TIMES):
+            server = self.start_server()
+            if turn % 4 == 0:
+                # A morning comes now, and the service may die at any point of its delivery.
+                self.desktop.clock.set(f"{day} 07:59:59.8")
+                day += datetime.timedelta(1)
+                mornings += 1
+            time.sleep(random.uniform(0, 0.25))
+            server.kill()
+            self.end_all_servers()
+            program.must_run()
+            titles = self.titles()
+            self.assertEqual(len(titles), len(set(titles)), titles)
+        self.end_all_servers()
+        self.start_server()
+        before = len(self.titles())
+        self.desktop.clock.set(f"{day} 07:59:59")
+        until("the last morning comes", lambda: len(self.titles()) > before, 15)
+        titles = self.titles()
+        print(f"{len(titles)} of {mornings + 1} mornings shown")
+        self.assertEqual(len(titles), len(set(titles)), titles)
+        self.assertEqual(program.output(), "")
+
+
+class Sound(ServicesDie):
+    def start_server(self):
+        socket = self.desktop.runtime / "pulse" / "native"
+        server = self.desktop.processes.start(
+            "pulseaudio", "pulseaudio", "--daemonize=no", "--exit-idle-time=-1", "-n", "-L", "module-native-protocol-unix",
+            "-L", "module-null-sink sink_name=test")
+        until("the sound server listens", socket.exists)
+        return server
+
+    def test_a_hundred_chimes_on_a_dying_server(self):
+        random = chance()
+        self.desktop.clock.set(NOON)
+        program = self.start_program(preferences=NO_NOTIFICATIONS)
+        program.wait_for_text(LINE)
+        hour = 5
+        for _turn in range(TIMES):
+            server = self.start_server()
+            # An hour later, the clock starts a chime with its next tick.
+            hour = hour % 9 + 1
+            self.desktop.clock.set(f"2025-11-15 {hour * 144 // 60:02}:{hour * 144 % 60:02}:01")
+            time.sleep(random.uniform(0, 0.4))
+            server.kill()
+            for left in self.desktop.runtime.glob("pulse/*"):
+                left.unlink()
+            program.must_run()
+        until("no player is left", lambda: not self.desktop.processes.named(PLAYER), 15)
+        until("no child is left", lambda: not self.children(program), 5)
+        self.desktop.clock.set("2025-11-15 12:00:01")
+        program.wait_for_text(LINE)
+        self.assertEqual(program.output(), "")
+
+
+class TheBar(ServicesDie):
+    def test_a_hundred_times(self):
+        random = chance()
+        host = self.desktop.host
+        self.desktop.clock.set(NOON)
+        program = self.start_program(preferences={**SILENT, "notificationsEnabled": "false"})
+        until("it is docked", lambda: self.desktop.docked_windows(program))
+        for _turn in range(TIMES):
+            time.sleep(random.uniform(0, 0.3))
+            host.bar.kill()
+            until("the tray is gone", lambda: not self.desktop.x11.has_tray())
+            host.start_bar(self.desktop)
+            program.must_run()
+        host.wait_for_bar(self.desktop)
+        until("it is docked again", lambda: len(self.desktop.docked_windows(program)) == 1, 15)
+        self.assertEqual(len(self.desktop.x11.windows_of(program.pid)), 1, "a window is left behind")
+        self.desktop.clock.set("2025-11-15 14:24:00")
+        program.wait_for_text("🌫️ 23 Brumaire · Tridi · 6:00", 5)
+        # The X server gives the window back to the root when the tray dies, which the toolkit remarks upon.
+        remarks = [line for line in program.output().splitlines() if not line.startswith("qt.qpa.xcb: internal error")]
+        self.assertEqual(remarks, [])
+
+
+class SessionBus(ServicesDie):
+    def test_dies_and_returns(self):
+        """Nobody can tell by the bus any more what it shows: that it ticks on can be seen."""
+        self.desktop.clock.set(NOON)
+        program = self.start_program(preferences=SILENT)
+        program.wait_for_text(LINE)
+
+        def look():
+            program.must_run()
+            window, = self.desktop.x11.windows_of(program.pid)
+            return self.desktop.picture().cropped(window.x, window.y, window.width, window.height).ppm()
+
+        for hour in (6, 7):
+            before = look()
+            self.desktop.bus.process.kill()
+            (self.desktop.directory / "session-bus").unlink()
+            self.desktop.bus.close()
+            self.desktop.bus = Bus(self.desktop.processes, "session-bus", Bus.SESSION)
+            self.desktop.clock.set(f"2025-11-15 {hour * 144 // 60:02}:{hour * 144 % 60:02}:00")
+            until("the label ticks on", lambda: look() != before, 5)
+
+
+if __name__ == "__main__":
+    main()
