@@ -15,7 +15,6 @@
 #include <optional>
 #include <string_view>
 
-
 namespace {
 
 using namespace tambrelle;
