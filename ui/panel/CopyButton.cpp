@@ -1,5 +1,7 @@
 #include "ui/panel/CopyButton.h"
 
+#include <QStyle>
+
 namespace tambrelle {
 
 namespace {
@@ -25,10 +27,12 @@ void CopyButton::showCopied(bool copied) {
     setText(copied ? QStringLiteral("Copied!") : QString());
     updateGeometry();
     fade.stop();
-    if (isVisible())
+    // The style says how long movements may last; none where the user asked the desktop for rest.
+    const bool moves = QWidget::style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
+    // The animation announces no value that it begins with.
+    setOpacity(isVisible() && moves ? 0 : 1);
+    if (isVisible() && moves)
         fade.start();
-    else
-        setOpacity(1);
 }
 
 } // namespace tambrelle
