@@ -16,6 +16,10 @@ public:
 
     void present(const StatusItemContent& content) override;
 
+signals:
+    /// The icon is in the bar that covers these device pixels of the screen.
+    void settledIn(QRect bar);
+
 private:
     DayIconWidget icon;
     TrayDock dock;

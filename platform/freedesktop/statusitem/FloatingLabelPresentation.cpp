@@ -1,5 +1,6 @@
 #include "platform/freedesktop/statusitem/FloatingLabelPresentation.h"
 
+#include "platform/freedesktop/statusitem/LabelPlacement.h"
 #include "platform/freedesktop/statusitem/LineStyle.h"
 
 #include <QGuiApplication>
@@ -10,8 +11,7 @@ namespace tambrelle {
 
 namespace {
 
-/// Distance from the edges of the free area, and the air above and below the text, logical pixels.
-constexpr int cornerGap = 8;
+/// The air above and below the text, logical pixels.
 constexpr int verticalPadding = 3;
 
 constexpr Qt::WindowFlags windowFlags =
@@ -30,21 +30,49 @@ FloatingLabelPresentation::FloatingLabelPresentation(QObject* parent)
         placedByUser = true;
         label.windowHandle()->startSystemMove();
     });
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    connect(screen, &QScreen::availableGeometryChanged, this, [this] { moveToCorner(); });
+    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this,
+            &FloatingLabelPresentation::followPrimaryScreen);
+    // Queued: while it is told of, a screen that goes is still among the others.
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &FloatingLabelPresentation::noteScreens,
+            Qt::QueuedConnection);
+    followPrimaryScreen();
+}
+
+void FloatingLabelPresentation::followPrimaryScreen() {
+    disconnect(availability);
+    availability = connect(QGuiApplication::primaryScreen(), &QScreen::availableGeometryChanged, this,
+                           &FloatingLabelPresentation::noteScreens);
+    moveToCorner();
+}
+
+void FloatingLabelPresentation::noteScreens() {
+    // Dragged to a screen, or to a part of one, that is there no longer.
+    if (QGuiApplication::screenAt(label.geometry().center()) == nullptr)
+        placedByUser = false;
+    moveToCorner();
+}
+
+void FloatingLabelPresentation::keepOff(QRect pixels) {
+    const double ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
+    bar = QRect(QPointF(pixels.topLeft() / ratio).toPoint(), QSizeF(pixels.size() / ratio).toSize());
+    moveToCorner();
 }
 
 void FloatingLabelPresentation::present(const StatusItemContent& content) {
+    const QSize before = label.size();
     label.setLine(content.line);
-    moveToCorner();
+    if (label.size() != before)
+        moveToCorner();
     label.show();
 }
 
 void FloatingLabelPresentation::moveToCorner() {
     if (placedByUser)
         return;
-    const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
-    label.move(free.right() + 1 - cornerGap - label.width(), free.top() + cornerGap);
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const LabelPlacement placement{
+        .screen = screen->geometry(), .available = screen->availableGeometry(), .bar = bar};
+    label.move(placement.place(label.size()));
 }
 
 } // namespace tambrelle

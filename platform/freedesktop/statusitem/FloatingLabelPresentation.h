@@ -3,10 +3,13 @@
 #include "platform/freedesktop/statusitem/LineLabel.h"
 #include "platform/freedesktop/statusitem/Presentation.h"
 
+#include <QRect>
+
 namespace tambrelle {
 
 /// The line in a small window of its own, for desktops whose bar cannot show it or that have none: above the
-/// others, out of the focus and of the task bar, in the upper right corner until the user drags it elsewhere.
+/// others, out of the focus and of the task bar, in the right corner beside the bar until the user drags it
+/// elsewhere.
 class FloatingLabelPresentation final : public Presentation {
     Q_OBJECT
 
@@ -14,11 +17,17 @@ public:
     explicit FloatingLabelPresentation(QObject* parent = nullptr);
 
     void present(const StatusItemContent& content) override;
+    /// Keeps out of the way of a bar that covers these device pixels of the X11 screen.
+    void keepOff(QRect bar);
 
 private:
+    void followPrimaryScreen();
+    void noteScreens();
     void moveToCorner();
 
     LineLabel label;
+    QRect bar;
+    QMetaObject::Connection availability;
     bool placedByUser = false;
 };
 

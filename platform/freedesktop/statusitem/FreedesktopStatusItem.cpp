@@ -89,12 +89,19 @@ void FreedesktopStatusItem::choose() {
         add(std::make_unique<DockedLinePresentation>(tray), [this] { lineRefused = true; });
         return;
     }
-    if (notified)
-        add(std::make_unique<NotifierPresentation>(bar.appearance), [this] { watcherRefused = true; });
-    else if (tray.isPresent() && !iconRefused)
-        add(std::make_unique<DockedIconPresentation>(tray), [this] { iconRefused = true; });
+    std::unique_ptr<FloatingLabelPresentation> label;
     if (!notified || !bar.showsLine)
-        add(std::make_unique<FloatingLabelPresentation>(), [] {});
+        label = std::make_unique<FloatingLabelPresentation>();
+    if (notified) {
+        add(std::make_unique<NotifierPresentation>(bar.appearance), [this] { watcherRefused = true; });
+    } else if (tray.isPresent() && !iconRefused) {
+        auto icon = std::make_unique<DockedIconPresentation>(tray);
+        connect(icon.get(), &DockedIconPresentation::settledIn, label.get(),
+                &FloatingLabelPresentation::keepOff);
+        add(std::move(icon), [this] { iconRefused = true; });
+    }
+    if (label)
+        add(std::move(label), [] {});
 }
 
 void FreedesktopStatusItem::add(std::unique_ptr<Presentation> presentation, std::function<void()> onRefusal) {

@@ -29,6 +29,9 @@ constexpr std::chrono::milliseconds watcherPatience{5000};
 constexpr std::chrono::milliseconds untilRegisteredAgain{1000};
 constexpr int mostForgotten = 5;
 
+/// waybar tells of the second press of a double click twice over, at once.
+constexpr qint64 sameClick = 50;
+
 /// The watcher forgets an item when the name goes from the bus, so each item has a name of its own.
 QString freshServiceName() {
     static int items = 0;
@@ -67,7 +70,7 @@ NotifierPresentation::NotifierPresentation(const NotifierAppearance& appearance,
       serviceName(freshServiceName()),
       item(new NotifierObject(appearance.style, this)),
       menu(new MenuObject(this)) {
-    connect(item, &NotifierObject::activated, this, &Presentation::activated);
+    connect(item, &NotifierObject::activated, this, &NotifierPresentation::noteActivation);
     connect(item, &NotifierObject::changed, this, &NotifierPresentation::sendSignal);
     connect(menu, &MenuObject::panelRequested, this, [this] { emit activated(QCursor::pos()); });
     connect(menu, &MenuObject::preferencesRequested, this, &Presentation::preferencesRequested);
@@ -92,6 +95,13 @@ void NotifierPresentation::present(const StatusItemContent& content) {
     if (!announced)
         claimName();
     announced = true;
+}
+
+void NotifierPresentation::noteActivation(QPoint position) {
+    if (sinceActivated.isValid() && !sinceActivated.hasExpired(sameClick))
+        return;
+    sinceActivated.start();
+    emit activated(position);
 }
 
 void NotifierPresentation::claimName() {

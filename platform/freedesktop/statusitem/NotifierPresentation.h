@@ -3,6 +3,8 @@
 #include "platform/freedesktop/statusitem/NotifierObject.h"
 #include "platform/freedesktop/statusitem/Presentation.h"
 
+#include <QElapsedTimer>
+
 #include <cstdint>
 
 namespace tambrelle {
@@ -26,6 +28,7 @@ public:
     void present(const StatusItemContent& content) override;
 
 private:
+    void noteActivation(QPoint position);
     void claimName();
     void registerWithWatcher();
 
@@ -42,6 +45,7 @@ private:
     bool announced = false;
     int forgotten = 0; ///< How often the watcher has dropped the item.
     std::int64_t shownDay = 0;
+    QElapsedTimer sinceActivated;
 };
 
 } // namespace tambrelle

@@ -38,6 +38,7 @@ void TrayDock::dock() {
     tray.dock(static_cast<std::uint32_t>(window.winId()));
     QTimer::singleShot(untilShown, this, [this] {
         window.show();
+        tray.announceShown(static_cast<std::uint32_t>(window.winId()));
         layout.start();
     });
 }

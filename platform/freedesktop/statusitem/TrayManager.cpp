@@ -26,6 +26,7 @@ xcb_atom_t atom(xcb_connection_t* connection, std::string_view name) {
 }
 
 constexpr std::uint32_t xembedVersion = 0;
+constexpr std::uint32_t xembedHidden = 0;
 constexpr std::uint32_t xembedMapped = 1;
 constexpr std::uint32_t requestDock = 0;
 
@@ -84,7 +85,8 @@ std::optional<QColor> TrayManager::foreground() const {
 }
 
 void TrayManager::dock(std::uint32_t window) const {
-    setEmbeddingInfo(window);
+    // A tray that shows the window itself, ahead of the toolkit, would leave the toolkit at a loss.
+    setEmbeddingInfo(window, xembedHidden);
     xcb_client_message_event_t request{};
     request.response_type = XCB_CLIENT_MESSAGE;
     request.format = 32;
@@ -97,8 +99,13 @@ void TrayManager::dock(std::uint32_t window) const {
     xcb_flush(connection);
 }
 
-void TrayManager::setEmbeddingInfo(std::uint32_t window) const {
-    const std::array<std::uint32_t, 2> info{xembedVersion, xembedMapped};
+void TrayManager::announceShown(std::uint32_t window) const {
+    setEmbeddingInfo(window, xembedMapped);
+    xcb_flush(connection);
+}
+
+void TrayManager::setEmbeddingInfo(std::uint32_t window, std::uint32_t flags) const {
+    const std::array<std::uint32_t, 2> info{xembedVersion, flags};
     const xcb_atom_t property = atom(connection, "_XEMBED_INFO");
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, property, property, 32, info.size(),
                         info.data());
@@ -127,6 +134,25 @@ std::optional<int> TrayManager::grantedWidth(std::uint32_t window) const {
     const Reply<xcb_get_geometry_reply_t> geometry(
         xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
     return geometry ? std::optional<int>(geometry->width) : std::nullopt;
+}
+
+std::optional<QRect> TrayManager::barAround(std::uint32_t window) const {
+    std::uint32_t outermost = window;
+    for (;;) {
+        const Reply<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(connection, xcb_query_tree(connection, outermost), nullptr));
+        if (!tree)
+            return std::nullopt;
+        if (tree->parent == root)
+            break;
+        outermost = tree->parent;
+    }
+    if (outermost == window)
+        return std::nullopt;
+    const Reply<xcb_get_geometry_reply_t> geometry(
+        xcb_get_geometry_reply(connection, xcb_get_geometry(connection, outermost), nullptr));
+    return geometry ? std::optional<QRect>(QRect(geometry->x, geometry->y, geometry->width, geometry->height))
+                    : std::nullopt;
 }
 
 bool TrayManager::nativeEventFilter(const QByteArray& /*eventType*/, void* message, qintptr* /*result*/) {

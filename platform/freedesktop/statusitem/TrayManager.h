@@ -3,6 +3,7 @@
 #include <QAbstractNativeEventFilter>
 #include <QColor>
 #include <QObject>
+#include <QRect>
 
 #include <cstdint>
 #include <optional>
@@ -27,10 +28,16 @@ public:
 
     /// Asks the tray to take `window`, which is not shown yet, and marks it as one that can be embedded.
     void dock(std::uint32_t window) const;
+    /// Tells the tray that the docked `window` has been shown.
+    void announceShown(std::uint32_t window) const;
 
     /// The width that the bar has given to `window`, in device pixels; absent while the window is not in a
     /// bar.
     [[nodiscard]] std::optional<int> grantedWidth(std::uint32_t window) const;
+
+    /// The whole bar that holds the docked `window`, in device pixels of the screen; absent when it is in
+    /// none.
+    [[nodiscard]] std::optional<QRect> barAround(std::uint32_t window) const;
 
     /// What the screen shows in the upper left corner of the docked `window`, where it draws nothing of its
     /// own; absent when it cannot be seen.
@@ -43,7 +50,7 @@ signals:
 private:
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
     void look();
-    void setEmbeddingInfo(std::uint32_t window) const;
+    void setEmbeddingInfo(std::uint32_t window, std::uint32_t flags) const;
     void listenTo(std::uint32_t window, std::uint32_t events) const;
 
     xcb_connection_t* connection = nullptr;

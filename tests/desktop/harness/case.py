@@ -22,6 +22,7 @@ class DesktopTest(unittest.TestCase):
 
     host_name = "none"          # main's --host puts another in its place
     zone = "Europe/Paris"
+    screen = "1280x720x24"
     limit = 60
     program_path = None
     evidence = None             # folder for a failed test's pictures and logs
@@ -42,7 +43,7 @@ class DesktopTest(unittest.TestCase):
     def setUp(self):
         if self.starts_desktop:
             require_host(self, self.host_name)
-            self.desktop = Desktop(self.host_name, self.zone)
+            self.desktop = Desktop(self.host_name, self.zone, self.screen)
             self.addCleanup(self.desktop.stop)
 
     def start_program(self, **options):

@@ -88,6 +88,11 @@ class Desktop:
             for path in (place, *(os.path.join(place, name) for name in folders + files)):
                 os.chown(path, user.pw_uid, user.pw_gid)
 
+    @property
+    def resolution(self):
+        """The screen's width and height, as WIDTHxHEIGHT."""
+        return self.screen.rpartition("x")[0]
+
     def copy_of_script(self, name):
         """A script of this folder, copied to where any user can read it."""
         copy = self.directory / name

@@ -1,5 +1,6 @@
 """The bars and desktops that the tests run on, each started as its users have it, in small."""
 
+import json
 import os
 import pathlib
 import shutil
@@ -10,6 +11,13 @@ from .pointers import ShellPointer, VirtualPointer, XPointer
 from .waiting import until
 
 HOSTS = {}
+
+# The ways in which the line is shown.
+DOCKED = "docked text"                  # a window of text in the bar
+LABEL = "icon and label"                # set by the bar itself
+PICTURE = "picture of the line"         # drawn by the bar as a wide icon
+ICON = "icon, and floating label"       # the bar has room for a square only
+FLOATING = "floating label"             # there is no bar for it
 
 
 def host_named(name):
@@ -28,6 +36,10 @@ class Host:
     refuses_root = False
     wayland = False
     seen_when_empty = True  # draws something even without items
+    shown_as = FLOATING     # how the line is shown here
+    click_opens_menu = False  # of the bar's own making, whatever the item wants
+    bar_at_bottom = False
+    bar_depth = 48          # no bar is higher than this
 
     def __init_subclass__(cls):
         if cls.name:
@@ -88,6 +100,10 @@ class Host:
     def pointer(self, desktop):
         return XPointer(desktop)
 
+    def windows_of(self, desktop, pid):
+        """Where a process's windows are on the screen: x, y, width, height of each."""
+        return [(window.x, window.y, window.width, window.height) for window in desktop.x11.windows_of(pid)]
+
     def picture(self, desktop):
         """The whole screen as a PPM."""
         return desktop.processes.run("import", "-window", "root", "-depth", "8", "ppm:-")
@@ -109,6 +125,7 @@ class Openbox(Host):
 
 class Trayer(Host):
     name = "trayer"
+    shown_as = DOCKED
     needs = ("Xvfb", "openbox", "trayer")
     has_tray = True
     seen_when_empty = False
@@ -121,6 +138,7 @@ class Trayer(Host):
 
 class Tint2(Host):
     name = "tint2"
+    shown_as = ICON
     needs = ("Xvfb", "openbox", "tint2")
     has_tray = True
 
@@ -147,6 +165,7 @@ strut_policy = follow_size
 
 class Polybar(Host):
     name = "polybar"
+    shown_as = ICON
     needs = ("Xvfb", "openbox", "polybar")
     has_tray = True
 
@@ -171,6 +190,7 @@ date = %H:%M
 
 class I3(Host):
     name = "i3"
+    shown_as = ICON
     needs = ("Xvfb", "i3", "i3bar")
     has_tray = True
 
@@ -203,6 +223,7 @@ bar {
 
 class Xfce(Host):
     name = "xfce"
+    shown_as = DOCKED
     needs = ("Xvfb", "xfwm4", "xfce4-panel", "xfconf-query")
     has_watcher = has_tray = True
     xdg_name = "XFCE"
@@ -247,6 +268,7 @@ class Xfce(Host):
 
 class Mate(Host):
     name = "mate"
+    shown_as = DOCKED
     needs = ("Xvfb", "openbox", "mate-panel")
     has_watcher = has_tray = True
     xdg_name = "MATE"
@@ -287,9 +309,11 @@ class MateIndicator(Mate):
     """MATE with the indicator applet: the watcher is a service of its own beside the panel."""
 
     name = "mate-indicator"
+    shown_as = LABEL
     needs = Mate.needs + ("/usr/libexec/ayatana-indicator-application/ayatana-indicator-application-service",)
     light = False
     has_tray = False
+    click_opens_menu = True
     applet = "IndicatorAppletFactory::IndicatorApplet"
 
     def start_bar(self, desktop):
@@ -302,6 +326,7 @@ class MateIndicator(Mate):
 
 class Lxqt(Host):
     name = "lxqt"
+    shown_as = ICON
     needs = ("Xvfb", "openbox", "lxqt-panel")
     has_watcher = True
     xdg_name = "LXQt"
@@ -340,10 +365,12 @@ alignment=Right
 
 class Plasma(Host):
     name = "plasma"
+    shown_as = ICON
     needs = ("Xvfb", "kwin_x11", "kded5", "plasmashell")
     light = False
     has_watcher = True
     xdg_name = "KDE"
+    bar_at_bottom = True
 
     def environment(self):
         return {**super().environment(), "KDE_FULL_SESSION": "true", "KDE_SESSION_VERSION": "5",
@@ -440,6 +467,7 @@ class GnomeStock(_GnomeShell):
 
 class Gnome(_GnomeShell):
     name = "gnome"
+    shown_as = LABEL
     needs = ("Xvfb", "gnome-shell", f"/usr/share/gnome-shell/extensions/{_APPINDICATOR}")
     has_watcher = True
     extensions = (_APPINDICATOR,)
@@ -457,7 +485,7 @@ class GnomeWayland(Gnome):
 
     def start_bar(self, desktop):
         self.bar = desktop.processes.start(
-            "gnome-shell", "gnome-shell", "--headless", "--virtual-monitor", "1280x720", "--wayland-display",
+            "gnome-shell", "gnome-shell", "--headless", "--virtual-monitor", desktop.resolution, "--wayland-display",
             "wayland-tambrelle", "--unsafe-mode")
         until("the shell's display is there", (desktop.runtime / "wayland-tambrelle").exists, 60)
         desktop.add_to_environment({"WAYLAND_DISPLAY": "wayland-tambrelle"})
@@ -472,12 +500,19 @@ class GnomeWayland(Gnome):
     def pointer(self, desktop):
         return self.shell(desktop)
 
+    def windows_of(self, desktop, pid):
+        return json.loads(json.loads(self.shell(desktop).evaluate(
+            "JSON.stringify(global.get_window_actors().map(actor => actor.meta_window)"
+            f".filter(window => window.get_pid() === {pid}).map(window => window.get_frame_rect())"
+            ".map(place => [place.x, place.y, place.width, place.height]))")))
+
     def picture(self, desktop):
         return self.shell(desktop).picture()
 
 
 class Sway(Host):
     name = "sway"
+    shown_as = PICTURE
     needs = ("sway", "waybar", "grim")
     light = False
     has_watcher = True
@@ -490,10 +525,11 @@ class Sway(Host):
                 "WLR_LIBINPUT_NO_DEVICES": "1", "WLR_RENDERER": "pixman"}
 
     def configure(self, desktop):
-        desktop.write_config("sway/config", """\
-output HEADLESS-1 resolution 1280x720 position 0 0
+        desktop.write_config("sway/config", f"""\
+output HEADLESS-1 resolution {desktop.resolution} position 0 0
 xwayland enable
 default_border pixel 2
+for_window [app_id="org.tambrelle.Tambrelle" title="Tambrelle"] floating enable, border none, move position 950 30
 """)
         desktop.write_config("waybar/config", """\
 { "layer": "top", "position": "top", "height": 28, "modules-left": ["sway/workspaces"],
@@ -527,6 +563,15 @@ window#waybar { background: #222; color: #eee; }
 
     def pointer(self, desktop):
         return self._pointer
+
+    def windows_of(self, desktop, pid):
+        def places(node):
+            if node.get("pid") == pid:
+                yield tuple(node["rect"][side] for side in ("x", "y", "width", "height"))
+            for child in node["nodes"] + node["floating_nodes"]:
+                yield from places(child)
+
+        return list(places(json.loads(desktop.processes.run("swaymsg", "-r", "-t", "get_tree"))))
 
     def picture(self, desktop):
         return desktop.processes.run("grim", "-t", "ppm", "-")

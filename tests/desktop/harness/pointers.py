@@ -33,10 +33,10 @@ class XPointer:
 class VirtualPointer:
     """sway has no pointer of its own when headless: a small client holds a virtual one and takes commands."""
 
-    WIDTH, HEIGHT = 1280, 720
     _BUTTONS = {1: "left", 2: "middle", 3: "right"}
 
     def __init__(self, desktop):
+        self._extent = desktop.resolution.replace("x", " ")
         self._commands = desktop.directory / "pointer-commands"
         self._commands.write_bytes(b"")
         self._sent = 0
@@ -51,7 +51,7 @@ class VirtualPointer:
         until(f"the pointer has done: {command}", lambda: f"done {self._sent}\n" in self._client.output())
 
     def move(self, x, y):
-        self._tell(f"move {x} {y} {self.WIDTH} {self.HEIGHT}")
+        self._tell(f"move {x} {y} {self._extent}")
 
     def click(self, x, y, button=1):
         self.move(x, y)
