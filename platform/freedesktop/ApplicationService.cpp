@@ -6,6 +6,7 @@
 #include <QDBusPendingReply>
 
 #include <chrono>
+#include <optional>
 
 namespace tambrelle {
 
@@ -33,6 +34,17 @@ constexpr auto introspection = R"xml(
   </method>
 </interface>
 )xml";
+
+/// The types that a method takes; absent for a method that there is not.
+std::optional<QString> signatureOf(const QString& member) {
+    if (member == QLatin1String("Activate"))
+        return QStringLiteral("a{sv}");
+    if (member == QLatin1String("Open"))
+        return QStringLiteral("asa{sv}");
+    if (member == QLatin1String("ActivateAction"))
+        return QStringLiteral("sava{sv}");
+    return std::nullopt;
+}
 
 } // namespace
 
@@ -88,16 +100,23 @@ bool ApplicationService::handleMessage(const QDBusMessage& message, const QDBusC
     if (message.interface() != applicationInterface && !message.interface().isEmpty())
         return false;
     const QString member = message.member();
+    const auto signature = signatureOf(member);
+    if (!signature)
+        return false;
+    if (message.signature() != *signature) {
+        if (message.isReplyRequired())
+            connection.send(message.createErrorReply(QDBusError::InvalidArgs,
+                                                     QStringLiteral("The arguments have other types")));
+        return true;
+    }
     if (member == QLatin1String("Activate") || member == QLatin1String("Open")) {
         emit activated();
-    } else if (member == QLatin1String("ActivateAction")) {
+    } else {
         const QString action = message.arguments().value(0).toString();
         if (action == QLatin1String("preferences"))
             emit preferencesRequested();
         else if (action == QLatin1String("quit"))
             emit quitRequested();
-    } else {
-        return false;
     }
     if (message.isReplyRequired())
         connection.send(message.createReply());

@@ -26,7 +26,6 @@ class Line(DesktopTest):
         # The day's figure, the weekday, the hour and the minutes stand apart.
         self.assertGreaterEqual(len(sight.parts), 3, f"a blur: {sight}")
         self.assertGreaterEqual(sight.contrast, FAINTEST, f"hardly to be told from the ground: {sight}")
-        self.assertNotIn("qt.", self.program.output(), "the toolkit complains")
         label = floating_label(self.desktop, self.program)
         if label:
             self.is_uncovered_and_beside_the_bar(label, pictures[0])

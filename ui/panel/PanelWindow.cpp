@@ -36,6 +36,9 @@ PanelWindow::PanelWindow(MenuBarView* view, PopoverKind kind)
     setWindowTitle(QStringLiteral("Tambrelle"));
     view->setParent(this);
     connect(view, &MenuBarView::heightChanged, this, &PanelWindow::fit);
+    // Queued: while it is told of, a screen that goes is still among the others.
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &PanelWindow::fit, Qt::QueuedConnection);
+    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &PanelWindow::fit, Qt::QueuedConnection);
 }
 
 void PanelWindow::toggle(QPoint click) {
@@ -67,8 +70,15 @@ void PanelWindow::open(QPoint click) {
 
 void PanelWindow::fit() {
     const QScreen* there = QGuiApplication::screenAt(lastClick);
-    if (!there)
+    if (!there) {
+        // On a screen that has been unplugged, or nowhere at all: what is nearest to it on one that is there.
         there = QGuiApplication::primaryScreen();
+        if (!there)
+            return;
+        const QRect whole = there->geometry();
+        lastClick = {std::clamp(lastClick.x(), whole.left(), whole.right()),
+                     std::clamp(lastClick.y(), whole.top(), whole.bottom())};
+    }
     const PanelPlacement placement{.click = lastClick, .available = there->availableGeometry()};
     const QRect place = placement.place(view->size());
     // A compositor that tiles lets a window of one size float.

@@ -30,7 +30,7 @@ constexpr std::chrono::milliseconds untilRegisteredAgain{1000};
 constexpr int mostForgotten = 5;
 
 /// waybar tells of the second press of a double click twice over, at once.
-constexpr qint64 sameClick = 50;
+constexpr qint64 sameClick = 20;
 
 /// The watcher forgets an item when the name goes from the bus, so each item has a name of its own.
 QString freshServiceName() {
