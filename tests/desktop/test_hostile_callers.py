@@ -9,7 +9,7 @@ from gi.repository import Gio, GLib
 
 from harness import DesktopTest, main, until
 from harness.bus import Absent
-from harness.eyes import panel
+from harness.eyes import QUIET, panel
 
 NOON = "2025-11-15 12:00:00"
 LINE = "🌫️ 23 Brumaire · Tridi · 5:00"
@@ -110,7 +110,7 @@ class HostileTest(DesktopTest):
     def setUp(self):
         super().setUp()
         self.desktop.clock.set(NOON)
-        self.program = self.start_program(preferences={"notificationsEnabled": "false", "soundEnabled": "false"})
+        self.program = self.start_program(preferences=QUIET)
         self.item = self.program.wait_for_title(LINE)
         self.lines = 0
 

@@ -97,14 +97,17 @@ def what_changed(pictures, area, but=()):
 # characters, in the smallest of the bars' fonts 140 pixels, and never more than one row of text.
 NARROWEST, LOWEST, HIGHEST = 130, 5, 26
 FAINTEST = 100
+# Neither notifications nor chimes. The first two keys say that the other two were chosen.
+QUIET = {"hasLaunchedBefore": "true", "notificationsConfigured": "true", "soundEnabled": "false",
+         "notificationsEnabled": "false"}
+
 PANEL_HEIGHT = 250  # no other window of the program is as high
 
 
 def start_seen_program(test, **options):
     """Starts the program with nothing but its line to be seen, and waits until it is shown as this host has it."""
     test.desktop.clock.set(ONE_DAY[0])
-    program = test.start_program(
-        preferences={"notificationsEnabled": "false", "soundEnabled": "false", **options})
+    program = test.start_program(preferences={**QUIET, **options})
     wait_until_shown(test.desktop, program)
     return program
 
