@@ -24,20 +24,24 @@ struct Bar {
 /// By the name of the program that owns the watcher, as the kernel has it.
 Bar barOf(const QString& program) {
     if (program == QLatin1String("gnome-shell"))
-        return {
-            .appearance = {.style = {.label = true, .menu = false, .refuseClicks = true}, .wideLine = false},
-            .showsLine = true,
-            .betterThanDocked = true};
-    if (program == QLatin1String("notification-ar") || program == QLatin1String("ayatana-indicat"))
-        return {
-            .appearance = {.style = {.label = true, .menu = true, .refuseClicks = false}, .wideLine = false},
-            .showsLine = true,
-            .betterThanDocked = false};
+        return {.appearance = {.style = {.label = true, .menu = false, .refuseClicks = true},
+                               .wideLine = false,
+                               .iconFromFile = false},
+                .showsLine = true,
+                .betterThanDocked = true};
+    const bool indicator = program == QLatin1String("ayatana-indicat");
+    if (indicator || program == QLatin1String("notification-ar"))
+        return {.appearance = {.style = {.label = true, .menu = true, .refuseClicks = false},
+                               .wideLine = false,
+                               .iconFromFile = indicator},
+                .showsLine = true,
+                .betterThanDocked = false};
     if (program == QLatin1String("waybar"))
-        return {
-            .appearance = {.style = {.label = false, .menu = true, .refuseClicks = false}, .wideLine = true},
-            .showsLine = true,
-            .betterThanDocked = false};
+        return {.appearance = {.style = {.label = false, .menu = true, .refuseClicks = false},
+                               .wideLine = true,
+                               .iconFromFile = false},
+                .showsLine = true,
+                .betterThanDocked = false};
     return {};
 }
 

@@ -84,6 +84,13 @@ void NotifierObject::setContent(const StatusItemContent& next) {
     }
 }
 
+void NotifierObject::setIconFile(const QString& file) {
+    if (file == iconFile)
+        return;
+    iconFile = file;
+    emit changed(QStringLiteral("NewIcon"), {});
+}
+
 void NotifierObject::setIcon(const IconPixmaps& pixmaps) {
     if (pixmaps == icon)
         return;
@@ -103,7 +110,7 @@ QVariantMap NotifierObject::properties() const {
         {QStringLiteral("Title"), content.line},
         {QStringLiteral("Status"), QStringLiteral("Active")},
         {QStringLiteral("WindowId"), 0},
-        {QStringLiteral("IconName"), QString()},
+        {QStringLiteral("IconName"), iconFile},
         {QStringLiteral("IconPixmap"), QVariant::fromValue(icon)},
         {QStringLiteral("ToolTip"), QVariant::fromValue(ToolTip{{}, {}, content.line, {}})},
         {QStringLiteral("ItemIsMenu"), false},

@@ -35,6 +35,8 @@ public:
 
     /// Takes over the content and tells the bar only of what differs.
     void setContent(const StatusItemContent& content);
+    /// A file that holds the picture, for a bar that takes no other; announced when it differs.
+    void setIconFile(const QString& file);
     /// The picture in the sizes that a bar may want; announced when it differs.
     void setIcon(const IconPixmaps& pixmaps);
 
@@ -54,6 +56,7 @@ private:
     NotifierStyle style;
     StatusItemContent content;
     IconPixmaps icon;
+    QString iconFile;
 };
 
 } // namespace tambrelle

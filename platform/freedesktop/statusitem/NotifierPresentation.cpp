@@ -11,6 +11,8 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDir>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include <array>
@@ -55,6 +57,17 @@ IconPixmaps squareIcon(std::int64_t day) {
     return pixmaps;
 }
 
+/// The day's icon as a file of this session's; empty where none can be written.
+QString iconFile(std::int64_t day) {
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    const QDir folder(runtime + QStringLiteral("/tambrelle"));
+    // A name for each day: bars keep pictures by their names.
+    const QString file = folder.filePath(QStringLiteral("day-%1.png").arg(day));
+    const bool written = !runtime.isEmpty() && folder.mkpath(QStringLiteral(".")) &&
+                         dayIcon(day, iconSides.back()).save(file, "PNG");
+    return written ? file : QString();
+}
+
 IconPixmaps wideLine(const QString& line) {
     IconPixmaps pixmaps;
     for (const int scale : {1, 2})
@@ -90,6 +103,8 @@ void NotifierPresentation::present(const StatusItemContent& content) {
         item->setIcon(wideLine(content.line));
     else if (shownDay != content.day)
         item->setIcon(squareIcon(content.day));
+    if (appearance.iconFromFile && shownDay != content.day)
+        item->setIconFile(iconFile(content.day));
     shownDay = content.day;
     menu->setLine(content.line);
     if (!announced)

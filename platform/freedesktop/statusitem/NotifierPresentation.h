@@ -14,7 +14,8 @@ class MenuObject;
 /// How a bar that takes items over the bus is best served.
 struct NotifierAppearance {
     NotifierStyle style;
-    bool wideLine = false; ///< The line itself as a wide picture in place of the square icon.
+    bool wideLine = false;     ///< The line itself as a wide picture in place of the square icon.
+    bool iconFromFile = false; ///< The square icon as a file: the bar takes no pixmaps.
 };
 
 /// The line as a status notifier item on the session bus, registered with the bar's watcher.
