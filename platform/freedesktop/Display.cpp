@@ -47,24 +47,29 @@ bool placesOnlyX11Windows() {
            !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-bool namesAnotherPlatform(std::span<const char* const> arguments) {
-    for (const std::string_view argument : arguments) {
+/// The toolkit's platform that the user asks for, or several of them; empty for none. The toolkit prefers the
+/// option.
+QByteArray namedPlatform(std::span<const char* const> arguments) {
+    for (std::size_t at = 0; at + 1 < arguments.size(); ++at) {
+        const std::string_view argument = arguments[at];
         if (argument == "-platform" || argument == "--platform")
-            return true;
+            return arguments[at + 1];
     }
-    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-    return !platform.isEmpty() && !platform.startsWith("xcb") && !platform.startsWith("wayland");
+    return qgetenv("QT_QPA_PLATFORM");
 }
 
 } // namespace
 
 bool prepareDisplay(int argc, const char* const* argv) {
-    if (namesAnotherPlatform({argv, static_cast<std::size_t>(argc)}))
+    const QByteArray named = namedPlatform({argv, static_cast<std::size_t>(argc)});
+    const bool mayBeX11 = named.isEmpty() || named.contains("xcb");
+    const bool mayBeWayland = named.isEmpty() || named.contains("wayland");
+    if (!mayBeX11 && !mayBeWayland)
         return true;
-    const bool x11 = x11Answers();
-    if (x11 && placesOnlyX11Windows() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    const bool x11 = mayBeX11 && x11Answers();
+    if (x11 && placesOnlyX11Windows() && named.isEmpty())
         qputenv("QT_QPA_PLATFORM", "xcb");
-    return x11 || waylandAnswers();
+    return x11 || (mayBeWayland && waylandAnswers());
 }
 
 PopoverKind popoverKind() {

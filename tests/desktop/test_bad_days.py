@@ -14,8 +14,8 @@ TWO_TICKS = 2 * 0.864
 
 
 class NoDisplay(DesktopTest):
-    def says_so_and_ends(self, environment):
-        program = self.start_program(without=[name for name in DISPLAYS if name not in environment],
+    def says_so_and_ends(self, environment, *arguments):
+        program = self.start_program(*arguments, without=[name for name in DISPLAYS if name not in environment],
                                      environment=environment)
         self.assertEqual(program.wait(10), 1)
         lines = program.output().splitlines()
@@ -24,6 +24,11 @@ class NoDisplay(DesktopTest):
 
     def test_none_is_named(self):
         self.says_so_and_ends({})
+
+    def test_a_platform_is_named_that_needs_one(self):
+        self.says_so_and_ends({}, "-platform", "xcb")
+        self.says_so_and_ends({}, "-platform", "wayland")
+        self.says_so_and_ends({"QT_QPA_PLATFORM": "xcb"})
 
     def test_one_is_named_that_does_not_answer(self):
         self.says_so_and_ends({"DISPLAY": ":4711"})

@@ -19,8 +19,8 @@ namespace {
 /// A machine without a display, to begin with.
 class DisplayTest : public ::testing::Test {
 protected:
-    [[nodiscard]] static bool hasDisplayWithArgument(const char* argument) {
-        const std::array<const char*, 2> arguments{"tambrelle", argument};
+    [[nodiscard]] static bool hasDisplayWithOption(const char* option, const char* value) {
+        const std::array<const char*, 3> arguments{"tambrelle", option, value};
         return prepareDisplay(static_cast<int>(arguments.size()), arguments.data());
     }
     [[nodiscard]] static bool hasDisplayWithoutArguments() {
@@ -108,9 +108,11 @@ TEST_F(DisplayTest, TheDisplaysOwnWaysNeedOne) {
 }
 
 TEST_F(DisplayTest, ArgumentsMayNameAnotherWay) {
-    EXPECT_TRUE(hasDisplayWithArgument("-platform"));
-    EXPECT_TRUE(hasDisplayWithArgument("--platform"));
-    EXPECT_FALSE(hasDisplayWithArgument("platform"));
+    EXPECT_TRUE(hasDisplayWithOption("-platform", "offscreen"));
+    EXPECT_TRUE(hasDisplayWithOption("--platform", "offscreen"));
+    EXPECT_FALSE(hasDisplayWithOption("platform", "offscreen"));
+    EXPECT_FALSE(hasDisplayWithOption("-platform", "xcb"));
+    EXPECT_FALSE(hasDisplayWithOption("--platform", "wayland"));
 }
 
 } // namespace

@@ -46,10 +46,10 @@ class DesktopTest(unittest.TestCase):
             self.desktop = Desktop(self.host_name, self.zone, self.screen)
             self.addCleanup(self.desktop.stop)
 
-    def start_program(self, **options):
+    def start_program(self, *arguments, **options):
         if not self.program_path:
             self.fail("no program given: --program PATH or TAMBRELLE_PROGRAM")
-        return self.desktop.start_program(self.program_path, **options)
+        return self.desktop.start_program(self.program_path, *arguments, **options)
 
     def _callTestMethod(self, method):
         try:
