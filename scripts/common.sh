@@ -44,6 +44,7 @@ install_packages() {
 configure() {
     local preset=$1 launcher=()
     shift
+    export CCACHE_SLOPPINESS=pch_defines,time_macros # what it needs for precompiled headers
     command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     cmake --preset "$preset" "${launcher[@]}" "$@"
 }
