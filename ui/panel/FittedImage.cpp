@@ -1,6 +1,8 @@
 #include "ui/panel/FittedImage.h"
 
-#include "ui/Symbol.h"
+#include "ui/Ink.h"
+#include "ui/panel/PanelMetrics.h"
+#include "ui/panel/PictureView.h"
 
 #include <QImage>
 #include <QPainter>
@@ -12,21 +14,23 @@ FittedImage::FittedImage(const QString& file, QWidget* parent) : QWidget(parent)
 void FittedImage::paintEvent(QPaintEvent*) {
     if (file.isEmpty())
         return;
+    const QColor field = color(palette(), Ink::pictureField);
+    const PictureFrame frame{.size = size(), .devicePixelRatio = devicePixelRatioF(), .field = field};
     const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
-    if (fittedFor != pixels) {
+    if (fittedFor != pixels || fittedField != field) {
         fittedFor = pixels;
+        fittedField = field;
         const QImage image(file);
-        fitted =
-            image.isNull()
-                ? QPixmap()
-                : QPixmap::fromImage(image.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-        fitted.setDevicePixelRatio(devicePixelRatioF());
+        fitted = image.isNull() ? QPixmap() : QPixmap::fromImage(composedPicture(image, frame));
     }
     if (fitted.isNull())
         return;
-    const QSizeF shown = fitted.deviceIndependentSize();
     QPainter painter(this);
-    drawAligned(painter, {(width() - shown.width()) / 2, (height() - shown.height()) / 2}, fitted);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(fitted);
+    painter.drawRoundedRect(rect(), PanelMetrics::smallPictureCornerRadius,
+                            PanelMetrics::smallPictureCornerRadius);
 }
 
 } // namespace tambrelle

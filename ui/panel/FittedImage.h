@@ -5,7 +5,8 @@
 
 namespace tambrelle {
 
-/// A picture file as large as it fits its place, centred; nothing where the file cannot be read.
+/// A picture file as large as it fits its place, centred, printed on the theme's picture field as the plates
+/// are; nothing where the file cannot be read.
 class FittedImage final : public QWidget {
     Q_OBJECT
 
@@ -19,6 +20,7 @@ private:
     QString file;
     QPixmap fitted;
     QSize fittedFor;
+    QColor fittedField;
 };
 
 } // namespace tambrelle

@@ -17,6 +17,7 @@ inline constexpr int pictureHeight = 260;
 inline constexpr int pictureCornerRadius = 8;
 inline constexpr int pictureOutlineWidth = 1;
 
+inline constexpr int smallPictureCornerRadius = 3;
 inline constexpr int guillotineSide = 28;
 
 inline constexpr int eventDescriptionLines = 2;
