@@ -1,4 +1,5 @@
-// TZ names any zone, follows any rule, or points to a file that holds anything at all.
+// TZ names any zone or follows any rule. Damaged zone files are left out: the C library alone reads them, and
+// version 2.36 falls on some, with every program of the system.
 
 #include "core/GregorianCalendar.h"
 #include "core/RevolutionaryCalendar.h"
@@ -36,14 +37,8 @@ void convert(Instant instant) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static fuzz::FuzzFile file("zone");
-    const std::string bytes(static_cast<const char*>(static_cast<const void*>(data)), size);
-    if (bytes.starts_with("TZif")) {
-        file.write({data, size});
-        ::setenv("TZ", (":" + file.path().toStdString()).c_str(), 1);
-    } else {
-        ::setenv("TZ", bytes.c_str(), 1);
-    }
+    const std::string text(static_cast<const char*>(static_cast<const void*>(data)), size);
+    ::setenv("TZ", text.c_str(), 1);
     ::tzset();
     for (const Instant instant : instants)
         convert(instant);
