@@ -11,9 +11,9 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_301_epeautre", [](Plate& p) {
         cereal(p,
-               {.height = 250,
-                .headLength = 190,
-                .stems = {-88, 84, -2},
+               {.height = 272,
+                .headLength = 180,
+                .stems = {-74, 70, -2},
                 .nod = 10,
                 .leaves = 2,
                 .head = [](Plate& plate, const Path& spine) {
