@@ -13,18 +13,20 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_356_bigarade", [](Plate& p) {
         const auto winged = [&](Point at, double degrees, double size) {
-            const Point joint = polar(at, degrees, size * 0.28);
+            const Point joint = polar(at, degrees, size * 0.38);
             leaf(p, {joint, polar(joint, degrees + 4, size * 0.4), polar(joint, degrees + 8, size * 0.8)},
                  {.width = size * 0.22, .shape = shapes::ovate, .margin = crenate(12, 0.04), .veins = 6});
             leaf(p, {at, lerp(at, joint, 0.5), joint},
-                 {.width = size * 0.105, .shape = {0.1, 0.4, 0.8, 1, 0.9, 0.3}, .veins = 2});
+                 {.width = size * 0.17, .shape = {0.08, 0.3, 0.66, 0.94, 1, 0.55}, .veins = 3});
         };
         const Path cane = spline({{76, 84}, {150, 66}, {236, 72}, {328, 58}});
         winged({92, 80}, 112, 122);
-        winged({140, 68}, -128, 80);
-        winged({232, 72}, -58, 84);
+        winged({140, 68}, -138, 68);
+        winged({232, 72}, -48, 68);
         winged({292, 66}, 66, 128);
-        winged({322, 60}, 8, 78);
+        winged({322, 60}, 8, 56);
+        thorn(p, {118, 74}, -64, 30, palettes::stem);
+        thorn(p, {252, 70}, -112, 30, palettes::stem);
         twig(p, {{76, 84}, {150, 66}, {236, 72}, {328, 58}}, {4.4, 3.6, 2.2}, palettes::stem);
         hangingPome({.length = 100,
                      .shape = {8, 31, 42, 48, 51, 52, 51, 48, 42, 31, 6},
@@ -32,14 +34,14 @@ static const Subject subject{
                      .stalk = 12,
                      .direction = 96,
                      .calyx = 0,
-                     .dots = 130})(p, {172, 66}, 90);
+                     .dots = 320})(p, {172, 66}, 90);
         hangingPome({.length = 94,
                      .shape = {8, 29, 39, 45, 48, 49, 48, 45, 39, 29, 6},
                      .palette = mix(palettes::orange, palettes::scarlet, 0.2),
                      .stalk = 66,
                      .direction = 88,
                      .calyx = 0,
-                     .dots = 130})(p, {246, 70}, 90);
+                     .dots = 320})(p, {246, 70}, 90);
         const FlowerForm blossom{.length = 32,
                                  .width = 10,
                                  .baseAngle = 72,
