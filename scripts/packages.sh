@@ -23,6 +23,7 @@ packages_of() {
         echo clang-14 libclang-rt-14-dev gcovr
         echo desktop-file-utils appstream libxml2-utils man-db groff-base mandoc shellcheck
         echo pulseaudio pulseaudio-utils sox ffmpeg strace binutils
+        echo fonts-lohit-deva # Hindi, the widest of the dates that the panel is fitted for
         ;;
     package) # a Debian package and its critic
         echo dpkg-dev binutils xz-utils gzip lintian
