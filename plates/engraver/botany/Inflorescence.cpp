@@ -32,9 +32,9 @@ FlowerAt lips(double size, Palette palette) {
         lipFlower(p, at, degrees, size * scale, palette, side);
     };
 }
-FlowerAt peas(double size, Palette palette) {
+FlowerAt peas(double size, Palette palette, std::optional<Palette> wings) {
     return [=](Plate& p, Point at, double degrees, double scale, int side) {
-        peaFlower(p, at, degrees, size * scale, palette, side);
+        peaFlower(p, at, degrees, size * scale, palette, side, wings);
     };
 }
 FlowerAt florets(double radius, Palette palette, int petals) {

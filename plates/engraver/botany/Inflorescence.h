@@ -15,7 +15,7 @@ using Inflorescence = std::function<void(Plate&, const Path& stem)>;
 FlowerAt flowers(const FlowerForm& form);
 FlowerAt bells(const BellForm& form);
 FlowerAt lips(double size, Palette palette);
-FlowerAt peas(double size, Palette palette);
+FlowerAt peas(double size, Palette palette, std::optional<Palette> wings = std::nullopt);
 FlowerAt florets(double radius, Palette palette, int petals = 5);
 FlowerAt composites(const CompositeForm& form);
 FlowerAt globes(const GlobeForm& form);

@@ -28,16 +28,11 @@ static const Subject subject{
                  .topLeafWidth = 10,
                  .leafAngle = 54,
                  .root = RootKind::taproot,
-                 .inflorescence =
-                     raceme({.flower =
-                                 [](Plate& plate, Point at, double degrees, double scale, int side) {
-                                     peaFlower(plate, at, degrees, 25 * scale, palettes::rose, side,
-                                               palettes::magenta);
-                                 },
-                             .nodes = 7,
-                             .from = 0.58,
-                             .perNode = 2,
-                             .angle = 76,
-                             .pedicel = 5,
-                             .smallest = 0.42})});
+                 .inflorescence = raceme({.flower = peas(25, palettes::rose, palettes::magenta),
+                                          .nodes = 7,
+                                          .from = 0.58,
+                                          .perNode = 2,
+                                          .angle = 76,
+                                          .pedicel = 5,
+                                          .smallest = 0.42})});
     }};

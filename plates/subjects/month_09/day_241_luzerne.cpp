@@ -29,18 +29,13 @@ static const Subject subject{
                  .topLeafWidth = 6.5,
                  .leafAngle = 56,
                  .root = RootKind::taproot,
-                 .inflorescence =
-                     raceme({.flower =
-                                 [](Plate& plate, Point at, double degrees, double scale, int side) {
-                                     peaFlower(plate, at, degrees, 23 * scale, palettes::violet, side,
-                                               palettes::purple);
-                                 },
-                             .nodes = 5,
-                             .from = 0.76,
-                             .perNode = 2,
-                             .angle = 76,
-                             .pedicel = 5,
-                             .smallest = 0.6})});
+                 .inflorescence = raceme({.flower = peas(23, palettes::violet, palettes::purple),
+                                          .nodes = 5,
+                                          .from = 0.76,
+                                          .perNode = 2,
+                                          .angle = 76,
+                                          .pedicel = 5,
+                                          .smallest = 0.6})});
         for (const Point middle : {Point{306, 300}, Point{334, 326}}) {
             Path coil;
             for (int k = 0; k <= 60; ++k)

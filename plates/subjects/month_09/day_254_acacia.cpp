@@ -32,10 +32,7 @@ static const Subject subject{
             const Point at = along(spine, q);
             const Path way{at, at + Point{(tip.x - at.x) * 0.7, 30}, tip};
             stem(p, way, {1.6, 1});
-            raceme({.flower =
-                        [](Plate& plate, Point c, double degrees, double scale, int side) {
-                            peaFlower(plate, c, degrees, 27 * scale, palettes::whiteflower, side);
-                        },
+            raceme({.flower = peas(27, palettes::whiteflower),
                     .nodes = 7,
                     .from = 0.2,
                     .perNode = 2,

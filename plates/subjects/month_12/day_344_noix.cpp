@@ -14,22 +14,14 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_344_noix", [](Plate& p) {
         twig(p, {{84, 70}, {150, 58}, {220, 68}}, {6, 5, 4});
-        growLeaf(p, {214, 66}, 22, 158, 46,
-                 {.build = LeafKind::Build::pinnate,
-                  .shape = shapes::elliptic,
-                  .veins = 7,
-                  .petiole = 0.14,
-                  .leaflets = 3,
-                  .leafletWidth = 0.34},
-                 22);
-        growLeaf(p, {110, 64}, 118, 130, 38,
-                 {.build = LeafKind::Build::pinnate,
-                  .shape = shapes::elliptic,
-                  .veins = 7,
-                  .petiole = 0.14,
-                  .leaflets = 3,
-                  .leafletWidth = 0.34},
-                 14);
+        const LeafKind leaf{.build = LeafKind::Build::pinnate,
+                            .shape = shapes::elliptic,
+                            .veins = 7,
+                            .petiole = 0.14,
+                            .leaflets = 3,
+                            .leafletWidth = 0.34};
+        growLeaf(p, {214, 66}, 22, 158, 46, leaf, 22);
+        growLeaf(p, {110, 64}, 118, 130, 38, leaf, 14);
         const auto shell = [&](Point at, double r) {
             ball(p, at, r, {.palette = palettes::wood, .direction = -90, .squash = 1.14});
             p.stroke(spline({at + Point{2, -r * 1.1}, at + Point{r * 0.12, 0}, at + Point{0, r * 1.12}}),
