@@ -1,61 +1,35 @@
-// Winter barley, two-row, Hordeum distichon: a flat ear of two ranks of plump grains, seen on its face, each
-// with a long stiff awn; two grains stand at each joint (cut across, below).
+// Winter barley, Hordeum vulgare: a short thick four-square ear that hangs over, fat grains all round it, the
+// dense awns shorter than in two-row barley and spread to all sides; six grains at each joint (cut across,
+// below). Sown in autumn: its green tuft has stood through the winter.
 
 #include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
+#include "plates/engraver/botany/AwnedEar.h"
 #include "plates/engraver/botany/Cereal.h"
-#include "plates/engraver/botany/Leaf.h"
+#include "plates/engraver/botany/Roots.h"
 
 using namespace tambrelle::engraver;
 
 static const Subject subject{
     "day_337_sucrion", [](Plate& p) {
-        const Palette ripe = mix(palettes::straw, palettes::leafy, 0.25);
-        const auto grain = [&](Point at, double degrees, double size) {
-            const Point tip = polar(at, degrees, size);
-            leaf(p, {at, lerp(at, tip, 0.5), tip},
-                 {.width = size * 0.27,
-                  .shape = {0.45, 0.9, 1, 0.86, 0.5, 0.08},
-                  .palette = ripe,
-                  .veins = 0,
-                  .parallel = true,
-                  .contour = 0.8,
-                  .midrib = 0.7});
-        };
-        const auto flatEar = [&](const Path& stalk, double size, int joints) {
-            const Path curve = spline(stalk);
-            const Point foot = stalk.back();
-            const double way = angleAlong(curve, 1);
-            const Point up = direction(way) * (11.5 * size);
-            for (int k = 0; k < joints; ++k)
-                for (const double side : {-1.0, 1.0}) {
-                    const Point at = foot + up * (k + (side > 0 ? 0.5 : 0));
-                    const double lean = side * (15 - 0.6 * k);
-                    const Point tip = polar(at, way + lean + side * 8, 30 * size);
-                    p.stroke(spline({tip, polar(tip, way + lean * 0.8, 60 * size),
-                                     polar(tip, way + lean * 0.7, (98 - 3 * k) * size)}),
-                             {.width = 1.1, .swell = 0, .fade = 0.6, .wobble = 0.05});
-                }
-            stem(p, stalk, {2.6, 2.2}, palettes::straw);
-            for (int k = joints - 1; k >= 0; --k)
-                for (const double side : {-1.0, 1.0}) {
-                    const Point at = foot + up * (k + (side > 0 ? 0.5 : 0));
-                    grain(at, way + side * (27 - 0.9 * k), (32 - 0.6 * k) * size);
-                }
-        };
-        strapLeaf(p, {163, 326}, -150, 84, 7, 40, palettes::oldleaf);
-        strapLeaf(p, {222, 328}, -30, 74, 7, 36, palettes::oldleaf);
-        flatEar({{176, 352}, {160, 324}, {146, 298}}, 1.2, 10);
-        flatEar({{212, 352}, {232, 320}, {246, 290}}, 1.34, 10);
-        // Cut across: two grains, back to back.
-        for (const double turn : {0.0, 180.0}) {
-            const Point c{322, 318};
-            const Path half = turned(ellipse(c + Point{15, 0}, 15, 10, 30), turn, c);
-            p.knockOut(half);
-            p.flat(half, ripe, 0.4);
-            p.flat(turned(ellipse(c + Point{15, 0}, 11, 6.6, 30), turn, c), palettes::cream, 0.1);
-            p.contour(half, 1);
-        }
-        p.dot({322, 318}, 2.4);
+        const Palette ripe = mix(palettes::straw, palettes::ginger, 0.25);
+        rootlets(p, {128, 340}, 13, 90, 110, 22);
+        for (const double degrees : {-168.0, -14.0, -140.0, -36.0, -112.0})
+            strapLeaf(p, {128, 338}, degrees, 74, 7, 40, palettes::leaf);
+        stem(p, {{128, 342}, {122, 230}, {136, 130}, {166, 78}, {204, 74}}, {3.8, 3.2, 2.8}, palettes::straw);
+        strapLeaf(p, {124, 236}, -150, 78, 7, 50, palettes::oldleaf);
+        awnedEar(p, {{198, 74}, {240, 96}, {270, 148}, {286, 206}},
+                 {.joints = 11,
+                  .ranks = {-1, 1, -0.5, 0.5, 0},
+                  .breadth = 15,
+                  .grain = 38,
+                  .plumpness = 0.29,
+                  .lean = 40,
+                  .awn = {70, 60},
+                  .awnLean = {64, 30},
+                  .scatter = 4,
+                  .palette = ripe});
+        earSection(p, {262, 308},
+                   {.grains = {-90, -30, 30, 90, 150, 210}, .length = 38, .width = 10, .palette = ripe});
     }};

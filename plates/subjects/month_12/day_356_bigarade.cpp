@@ -1,5 +1,5 @@
-// Bitter orange, Citrus aurantium: rough deep-orange globes, leaves on broadly winged stalks, white
-// five-petalled flowers.
+// Bitter orange, Citrus aurantium: rough deep-orange globes, leaves on broadly winged stalks, long slender
+// thorns in their axils, white five-petalled flowers.
 
 #include "plates/engraver/Lathe.h"
 #include "plates/engraver/Subject.h"
@@ -21,12 +21,17 @@ static const Subject subject{
         };
         const Path cane = spline({{76, 84}, {150, 66}, {236, 72}, {328, 58}});
         winged({92, 80}, 112, 122);
-        winged({140, 68}, -138, 68);
-        winged({232, 72}, -48, 68);
+        winged({140, 68}, -150, 70);
+        winged({232, 72}, -42, 66);
         winged({292, 66}, 66, 128);
         winged({322, 60}, 8, 56);
-        thorn(p, {118, 74}, -64, 30, palettes::stem);
-        thorn(p, {252, 70}, -112, 30, palettes::stem);
+        struct Thorn {
+            Point at;
+            double degrees;
+        };
+        for (const Thorn& t :
+             {Thorn{{84, 82}, -98}, {{150, 66}, -78}, {{234, 71}, -98}, {{272, 68}, 104}, {{306, 62}, -96}})
+            thorn(p, t.at, t.degrees, 34, palettes::oldleaf);
         twig(p, {{76, 84}, {150, 66}, {236, 72}, {328, 58}}, {4.4, 3.6, 2.2}, palettes::stem);
         hangingPome({.length = 100,
                      .shape = {8, 31, 42, 48, 51, 52, 51, 48, 42, 31, 6},
@@ -55,5 +60,9 @@ static const Subject subject{
                                  .washLift = 0};
         flower(p, {196, 60}, -96, blossom);
         flower(p, {282, 60}, -70, blossom, 0.85);
-        ball(p, {222, 96}, 8, {.palette = palettes::whiteflower, .direction = 80, .squash = 1.5});
+        // A bud in its green cup, on its stalk.
+        stem(p, {{220, 71}, {226, 82}, {226, 94}}, 1.5);
+        ball(p, {226, 107}, 7.5, {.palette = palettes::whiteflower, .direction = 90, .squash = 1.6});
+        leaf(p, {{226, 90}, {226, 94}, {226, 99}},
+             {.width = 5.5, .shape = {0.4, 0.8, 1, 0.95}, .veins = 0, .contour = 0.7, .midrib = 0});
     }};
