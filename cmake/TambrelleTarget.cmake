@@ -9,6 +9,11 @@ target_compile_options(tambrelle_options INTERFACE
   # A constructor's parameter may bear the name of the member that it fills; one local may not hide another.
   $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>)
 
+if(CMAKE_UNITY_BUILD)
+  # Each test's unnamed namespace is then in a file that includes it.
+  target_compile_options(tambrelle_options INTERFACE -Wno-subobject-linkage)
+endif()
+
 option(TAMBRELLE_WERROR "Treat warnings as errors" OFF)
 if(TAMBRELLE_WERROR)
   target_compile_options(tambrelle_options INTERFACE -Werror)

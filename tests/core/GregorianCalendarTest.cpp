@@ -1,10 +1,10 @@
 #include "core/GregorianCalendar.h"
 #include "core/RevolutionaryCalendar.h"
+#include "tests/core/Limits.h"
 #include "tests/core/ZoneGuard.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <optional>
 #include <ostream>
 
@@ -20,6 +20,8 @@ void PrintTo(Instant instant, std::ostream* out) {
 }
 
 namespace {
+
+using test::greatest, test::least;
 
 using namespace std::chrono_literals;
 using GregorianCalendar::addingDays;
@@ -84,8 +86,6 @@ TEST(GregorianCalendar, FollowsAChangeOfZoneAtOnce) {
 
 TEST(GregorianCalendar, RefusesFieldsOutOfTheirRanges) {
     const ZoneGuard zone{"Europe/Paris"};
-    constexpr auto greatest = std::numeric_limits<std::int64_t>::max();
-    constexpr auto least = std::numeric_limits<std::int64_t>::min();
     for (const CivilComponents& civil : {CivilComponents{2025, 0, 1, 0, 0, 0},
                                          CivilComponents{2025, 13, 1, 0, 0, 0},
                                          CivilComponents{2025, 1, 0, 0, 0, 0},
@@ -179,8 +179,6 @@ TEST(GregorianCalendar, KeepsTheTimeOfDayWhenItAddsDays) {
 
 TEST(GregorianCalendar, GivesNoDayOutOfRange) {
     const ZoneGuard zone{"Europe/Paris"};
-    constexpr auto greatest = std::numeric_limits<std::int64_t>::max();
-    constexpr auto least = std::numeric_limits<std::int64_t>::min();
     const Instant now = utc(2025, 11, 15);
     for (const std::int64_t days : {greatest, least, greatest / 86'400, least / 86'400, greatest / 86'400 / 4,
                                     std::int64_t{1'000'000'000'000}, std::int64_t{-1'000'000'000'000},

@@ -1,14 +1,13 @@
 #include "core/Precondition.h"
 
-#include <gtest/gtest.h>
+#include "tests/core/Limits.h"
 
-#include <limits>
+#include <gtest/gtest.h>
 
 namespace tambrelle {
 namespace {
 
-constexpr auto greatest = std::numeric_limits<std::int64_t>::max();
-constexpr auto least = std::numeric_limits<std::int64_t>::min();
+using test::greatest, test::least;
 
 TEST(Precondition, LetsAPossibleStatePass) {
     precondition(true, "never printed");

@@ -1,5 +1,6 @@
 #include "core/RevolutionaryCalendar.h"
 #include "core/GregorianCalendar.h"
+#include "tests/core/Limits.h"
 #include "tests/core/ZoneGuard.h"
 
 #include <gmock/gmock.h>
@@ -7,7 +8,6 @@
 
 #include <concepts>
 #include <filesystem>
-#include <limits>
 #include <string>
 #include <type_traits>
 
@@ -23,8 +23,7 @@ static_assert(std::is_aggregate_v<RevolutionaryDate> &&
               sizeof(RevolutionaryDate) == 4 * sizeof(std::int64_t));
 static_assert(std::is_aggregate_v<DecimalTime> && sizeof(DecimalTime) == 3 * sizeof(std::int64_t));
 
-constexpr auto greatest = std::numeric_limits<std::int64_t>::max();
-constexpr auto least = std::numeric_limits<std::int64_t>::min();
+using test::greatest, test::least;
 
 Instant local(const CivilComponents& civil) {
     return GregorianCalendar::instant(civil).value();

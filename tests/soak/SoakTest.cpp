@@ -18,9 +18,9 @@ using namespace tambrelle::soak;
 namespace {
 
 /// A year of 365 days of 100,000 ticks.
-constexpr std::int64_t year = 36'500'000;
+constexpr std::int64_t ticksOfAYear = 36'500'000;
 /// What the sanitizers have the time for.
-constexpr std::int64_t weeks = 2'000'000;
+constexpr std::int64_t ticksOfSomeWeeks = 2'000'000;
 
 /// The first part of a life fills caches and tables that are filled once.
 constexpr std::int64_t settlingShare = 10;
@@ -73,11 +73,11 @@ Tally live(std::int64_t ticks) {
 } // namespace
 
 TEST(Soak, Weeks) {
-    live(chosenTicks(weeks));
+    live(chosenTicks(ticksOfSomeWeeks));
 }
 
 TEST(Soak, Year) {
-    const Tally tally = live(chosenTicks(year));
+    const Tally tally = live(chosenTicks(ticksOfAYear));
     // A year without a single peaceful day would have shown little.
     EXPECT_GT(tally.checkedChimes, 100);
     EXPECT_GT(tally.checkedMornings, 10);

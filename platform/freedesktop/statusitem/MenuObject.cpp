@@ -1,5 +1,7 @@
 #include "platform/freedesktop/statusitem/MenuObject.h"
 
+#include "platform/freedesktop/statusitem/BusReplies.h"
+
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -39,13 +41,12 @@ namespace tambrelle {
 namespace {
 
 const QString menuInterface = QStringLiteral("com.canonical.dbusmenu");
-const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 
 enum Entry : int { root, lineEntry, panelEntry, preferencesEntry, separatorEntry, quitEntry };
 
 constexpr std::array entries{lineEntry, panelEntry, preferencesEntry, separatorEntry, quitEntry};
 
-constexpr auto introspection = R"xml(
+constexpr auto menuIntrospection = R"xml(
 <interface name="com.canonical.dbusmenu">
   <property name="Version" type="u" access="read"/>
   <property name="TextDirection" type="s" access="read"/>
@@ -110,13 +111,17 @@ QVariantMap propertiesOf(int id, const QString& line) {
     }
 }
 
-bool exists(int id) {
-    return id >= root && id <= quitEntry;
+QVariantMap menuProperties() {
+    return {
+        {QStringLiteral("Version"), 3U},
+        {QStringLiteral("TextDirection"), QStringLiteral("ltr")},
+        {QStringLiteral("Status"), QStringLiteral("normal")},
+        {QStringLiteral("IconThemePath"), QStringList()},
+    };
 }
 
-QDBusMessage invalidArguments(const QDBusMessage& message) {
-    return message.createErrorReply(QDBusError::InvalidArgs,
-                                    QStringLiteral("The arguments have other types"));
+bool exists(int id) {
+    return id >= root && id <= quitEntry;
 }
 
 /// The entries clicked in an array of events, each of entry, name, data, time.
@@ -177,16 +182,17 @@ void MenuObject::setLine(const QString& text) {
 }
 
 QString MenuObject::introspect(const QString& /*path*/) const {
-    return QString::fromLatin1(introspection);
+    return QString::fromLatin1(menuIntrospection);
 }
 
 bool MenuObject::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
-    const QString interface = message.interface();
-    if (interface != menuInterface && interface != propertiesInterface && !interface.isEmpty())
+    std::optional<QDBusMessage> reply = replyWithProperty(message, menuProperties());
+    if (!reply && (message.interface() == menuInterface || message.interface().isEmpty()))
+        reply = replyTo(message);
+    if (!reply)
         return false;
-    const QDBusMessage reply = replyTo(message);
     if (message.isReplyRequired())
-        connection.send(reply);
+        connection.send(*reply);
     return true;
 }
 
@@ -198,9 +204,8 @@ QDBusMessage MenuObject::replyTo(const QDBusMessage& message) {
         return signature == QLatin1String("iias") ? layout(message) : invalidArguments(message);
     if (member == QLatin1String("GetGroupProperties"))
         return signature == QLatin1String("aias") ? groupProperties(message) : invalidArguments(message);
-    if (member == QLatin1String("GetProperty") || member == QLatin1String("Get") ||
-        member == QLatin1String("GetAll"))
-        return property(message);
+    if (member == QLatin1String("GetProperty"))
+        return signature == QLatin1String("is") ? entryProperty(message) : invalidArguments(message);
     if (member == QLatin1String("AboutToShow"))
         return message.createReply(line != shownLine);
     if (member == QLatin1String("AboutToShowGroup"))
@@ -253,23 +258,10 @@ QDBusMessage MenuObject::groupProperties(const QDBusMessage& message) const {
     return message.createReply(QVariant::fromValue(items));
 }
 
-QDBusMessage MenuObject::property(const QDBusMessage& message) const {
-    const QVariantMap ofMenu{
-        {QStringLiteral("Version"), 3U},
-        {QStringLiteral("TextDirection"), QStringLiteral("ltr")},
-        {QStringLiteral("Status"), QStringLiteral("normal")},
-        {QStringLiteral("IconThemePath"), QStringList()},
-    };
-    const QString signature = message.signature();
-    if (message.member() == QLatin1String("GetAll"))
-        return signature == QLatin1String("s") ? message.createReply(QVariant(ofMenu))
-                                               : invalidArguments(message);
-    const bool ofEntry = message.member() == QLatin1String("GetProperty");
-    if (signature != QLatin1String(ofEntry ? "is" : "ss"))
-        return invalidArguments(message);
-    const QVariantMap from = ofEntry ? propertiesOf(message.arguments().at(0).toInt(), line) : ofMenu;
-    const auto found = from.constFind(message.arguments().at(1).toString());
-    if (found == from.cend())
+QDBusMessage MenuObject::entryProperty(const QDBusMessage& message) const {
+    const QVariantMap all = propertiesOf(message.arguments().at(0).toInt(), line);
+    const auto found = all.constFind(message.arguments().at(1).toString());
+    if (found == all.cend())
         return message.createErrorReply(QDBusError::UnknownProperty, QStringLiteral("No such property"));
     return message.createReply(QVariant::fromValue(QDBusVariant(*found)));
 }

@@ -41,7 +41,7 @@ private:
     [[nodiscard]] QDBusMessage replyTo(const QDBusMessage& message);
     [[nodiscard]] QDBusMessage layout(const QDBusMessage& message);
     [[nodiscard]] QDBusMessage groupProperties(const QDBusMessage& message) const;
-    [[nodiscard]] QDBusMessage property(const QDBusMessage& message) const;
+    [[nodiscard]] QDBusMessage entryProperty(const QDBusMessage& message) const;
     void choose(int id);
 
     QString line;

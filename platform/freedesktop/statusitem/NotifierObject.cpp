@@ -1,9 +1,10 @@
 #include "platform/freedesktop/statusitem/NotifierObject.h"
 
+#include "platform/freedesktop/statusitem/BusReplies.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QDBusVariant>
 #include <QStringList>
 
 #include <utility>
@@ -13,12 +14,11 @@ namespace tambrelle {
 namespace {
 
 const QString itemInterface = QStringLiteral("org.kde.StatusNotifierItem");
-const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 
 /// The protocol's way of saying that an item has no menu.
 const QString noMenuPath = QStringLiteral("/NO_DBUSMENU");
 
-constexpr auto introspection = R"xml(
+constexpr auto itemIntrospection = R"xml(
 <interface name="org.kde.StatusNotifierItem">
   <property name="Category" type="s" access="read"/>
   <property name="Id" type="s" access="read"/>
@@ -58,11 +58,6 @@ std::optional<QPoint> positionOf(const QDBusMessage& message) {
     return QPoint(arguments.at(0).toInt(), arguments.at(1).toInt());
 }
 
-QDBusMessage invalidArguments(const QDBusMessage& message) {
-    return message.createErrorReply(QDBusError::InvalidArgs,
-                                    QStringLiteral("The arguments have other types"));
-}
-
 } // namespace
 
 NotifierObject::NotifierObject(const NotifierStyle& style, QObject* parent)
@@ -99,7 +94,7 @@ void NotifierObject::setIcon(const IconPixmaps& pixmaps) {
 }
 
 QString NotifierObject::introspect(const QString& /*path*/) const {
-    return QString::fromLatin1(introspection)
+    return QString::fromLatin1(itemIntrospection)
         .arg(QLatin1String(style.label ? labelProperty : ""), QLatin1String(style.label ? labelSignal : ""));
 }
 
@@ -124,39 +119,15 @@ QVariantMap NotifierObject::properties() const {
 }
 
 bool NotifierObject::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
+    std::optional<QDBusMessage> reply = replyWithProperty(message, properties());
     // A caller may leave the interface out; then the member's name alone tells.
-    std::optional<QDBusMessage> reply;
-    if (message.interface() == propertiesInterface)
-        reply = handleProperties(message);
-    else if (message.interface() == itemInterface || message.interface().isEmpty())
+    if (!reply && (message.interface() == itemInterface || message.interface().isEmpty()))
         reply = handleItem(message);
     if (!reply)
         return false;
     if (message.isReplyRequired())
         connection.send(*reply);
     return true;
-}
-
-std::optional<QDBusMessage> NotifierObject::handleProperties(const QDBusMessage& message) const {
-    const QVariantList arguments = message.arguments();
-    if (message.member() == QLatin1String("GetAll")) {
-        if (message.signature() != QLatin1String("s"))
-            return invalidArguments(message);
-        return message.createReply(QVariant(properties()));
-    }
-    if (message.member() == QLatin1String("Get")) {
-        if (message.signature() != QLatin1String("ss"))
-            return invalidArguments(message);
-        const QVariantMap all = properties();
-        const auto found = all.constFind(arguments.at(1).toString());
-        if (found == all.cend())
-            return message.createErrorReply(QDBusError::UnknownProperty, QStringLiteral("No such property"));
-        return message.createReply(QVariant::fromValue(QDBusVariant(*found)));
-    }
-    if (message.member() == QLatin1String("Set"))
-        return message.createErrorReply(QDBusError::PropertyReadOnly,
-                                        QStringLiteral("The item cannot be changed"));
-    return std::nullopt;
 }
 
 std::optional<QDBusMessage> NotifierObject::handleItem(const QDBusMessage& message) {

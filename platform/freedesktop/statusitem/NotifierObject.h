@@ -50,7 +50,6 @@ signals:
 
 private:
     [[nodiscard]] QVariantMap properties() const;
-    [[nodiscard]] std::optional<QDBusMessage> handleProperties(const QDBusMessage& message) const;
     [[nodiscard]] std::optional<QDBusMessage> handleItem(const QDBusMessage& message);
 
     NotifierStyle style;
