@@ -15,7 +15,7 @@ packages_of() {
         ;;
     desktop) # a private desktop: display, bus, window manager, a light bar, the hands and eyes of the tests
         echo python3 python3-gi dbus-daemon at-spi2-core libglib2.0-bin
-        echo xvfb xauth x11-utils xdotool xclip imagemagick openbox trayer
+        echo xvfb xauth x11-utils x11-xserver-utils xdotool xclip imagemagick openbox trayer
         echo xfce4-panel xfconf xfwm4 dunst faketime util-linux procps adwaita-icon-theme
         ;;
     test) # what ./check asks for beyond that

@@ -23,6 +23,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName(QStringLiteral("Tambrelle"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tambrelle.Tambrelle"));
     QApplication::setQuitOnLastWindowClosed(false);
+    redrawAtEachScale();
 
     const TerminationSignals termination;
     // Not by way of the windows' consent: who sends a signal does not wait for it.

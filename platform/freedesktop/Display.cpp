@@ -1,7 +1,10 @@
 #include "platform/freedesktop/Display.h"
 
+#include <QApplication>
+#include <QBackingStore>
 #include <QByteArray>
-#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
 
 #include <algorithm>
 #include <iterator>
@@ -58,6 +61,18 @@ QByteArray namedPlatform(std::span<const char* const> arguments) {
     return qgetenv("QT_QPA_PLATFORM");
 }
 
+void redrawAll() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (QBackingStore* store = window->backingStore())
+            store->resize(store->size());
+        window->update();
+    }
+}
+
+void redrawAtEachScaleOf(const QScreen* screen) {
+    QObject::connect(screen, &QScreen::logicalDotsPerInchChanged, qApp, redrawAll);
+}
+
 } // namespace
 
 bool prepareDisplay(int argc, const char* const* argv) {
@@ -77,6 +92,13 @@ PopoverKind popoverKind() {
     const bool x11Alone = QGuiApplication::platformName() != QLatin1String("wayland") &&
                           qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
     return x11Alone ? PopoverKind::grabbing : PopoverKind::standing;
+}
+
+void redrawAtEachScale() {
+    // Before 6.6 the toolkit gives a window the new number of pixels and goes on drawing the old number.
+    for (const QScreen* screen : QGuiApplication::screens())
+        redrawAtEachScaleOf(screen);
+    QObject::connect(qGuiApp, &QGuiApplication::screenAdded, qGuiApp, redrawAtEachScaleOf);
 }
 
 } // namespace tambrelle

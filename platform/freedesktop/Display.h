@@ -13,4 +13,8 @@ namespace tambrelle {
 /// What this display server allows of popovers. Comes after the toolkit's application object.
 [[nodiscard]] PopoverKind popoverKind();
 
+/// Has every window drawn anew when the scale of a screen changes, now and later. Comes after the toolkit's
+/// application object.
+void redrawAtEachScale();
+
 } // namespace tambrelle

@@ -79,6 +79,9 @@ void PanelWindow::fit() {
         lastClick = {std::clamp(lastClick.x(), whole.left(), whole.right()),
                      std::clamp(lastClick.y(), whole.top(), whole.bottom())};
     }
+    disconnect(availability);
+    availability =
+        connect(there, &QScreen::availableGeometryChanged, this, &PanelWindow::fit, Qt::QueuedConnection);
     const PanelPlacement placement{.click = lastClick, .available = there->availableGeometry()};
     const QRect place = placement.place(view->size());
     // A compositor that tiles lets a window of one size float.

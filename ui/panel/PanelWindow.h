@@ -38,6 +38,7 @@ private:
     PopoverKind kind;
     QElapsedTimer sinceLeft; ///< Since a standing panel lost the focus and closed.
     QPoint lastClick;
+    QMetaObject::Connection availability; ///< Of the screen that it is on.
 };
 
 } // namespace tambrelle

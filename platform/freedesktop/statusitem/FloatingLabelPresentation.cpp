@@ -26,8 +26,11 @@ FloatingLabelPresentation::FloatingLabelPresentation(QObject* parent)
     label.setInk(LineStyle::ink);
 
     connect(&label, &LineLabel::clicked, this, &Presentation::activated);
-    connect(&label, &LineLabel::dragged, this, [this] {
+    connect(&label, &LineLabel::dragged, this, [this](QPoint corner) {
         placedByUser = true;
+        // The toolkit, if it looked while the window manager was putting the window into its frame, holds it
+        // for one at the origin, and the drag would begin with a leap.
+        label.move(corner);
         label.windowHandle()->startSystemMove();
     });
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this,
@@ -39,9 +42,13 @@ FloatingLabelPresentation::FloatingLabelPresentation(QObject* parent)
 }
 
 void FloatingLabelPresentation::followPrimaryScreen() {
-    disconnect(availability);
-    availability = connect(QGuiApplication::primaryScreen(), &QScreen::availableGeometryChanged, this,
-                           &FloatingLabelPresentation::noteScreens);
+    for (const QMetaObject::Connection& former : geometry)
+        disconnect(former);
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    // Both: the window manager may announce what is free of a new size before the screen itself has it.
+    geometry = {
+        connect(screen, &QScreen::geometryChanged, this, &FloatingLabelPresentation::noteScreens),
+        connect(screen, &QScreen::availableGeometryChanged, this, &FloatingLabelPresentation::noteScreens)};
     moveToCorner();
 }
 

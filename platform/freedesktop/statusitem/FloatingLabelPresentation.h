@@ -5,6 +5,8 @@
 
 #include <QRect>
 
+#include <array>
+
 namespace tambrelle {
 
 /// The line in a small window of its own, for desktops whose bar cannot show it or that have none: above the
@@ -27,7 +29,7 @@ private:
 
     LineLabel label;
     QRect bar;
-    QMetaObject::Connection availability;
+    std::array<QMetaObject::Connection, 2> geometry; ///< Of the primary screen and of its free part.
     bool placedByUser = false;
 };
 

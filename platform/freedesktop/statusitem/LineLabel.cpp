@@ -37,9 +37,8 @@ void LineLabel::setPaper(const QColor& ground, const QColor& edge) {
 void LineLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     if (paper.isValid()) {
-        painter.setPen(paperEdge);
-        painter.setBrush(paper);
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.fillRect(rect(), paperEdge);
+        painter.fillRect(rect().adjusted(1, 1, -1, -1), paper);
     }
     painter.setPen(palette().color(QPalette::WindowText));
     LineStyle::draw(painter, contentsRect(), text());
@@ -55,7 +54,7 @@ void LineLabel::mouseMoveEvent(QMouseEvent* event) {
     if (!pressed || distance < QApplication::startDragDistance())
         return;
     pressed = false;
-    emit dragged();
+    emit dragged((event->globalPosition() - event->position()).toPoint());
 }
 
 void LineLabel::mouseReleaseEvent(QMouseEvent* event) {

@@ -23,8 +23,8 @@ public:
 signals:
     /// Pressed and released in place; `position` is on the screen.
     void clicked(QPoint position);
-    /// Pressed and pulled away.
-    void dragged();
+    /// Pressed and pulled away; `corner` is the window's upper left one on the screen, as the pointer has it.
+    void dragged(QPoint corner);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
