@@ -34,6 +34,24 @@ TEST(FittedImageTest, WhitePaperIsTheThemesField) {
     }
 }
 
+TEST(FittedImageTest, APlateWithAPaletteIsNotDithered) {
+    const QTemporaryDir folder;
+    QImage wood(576, 520, QImage::Format_Indexed8);
+    wood.setColorTable({qRgb(255, 255, 255), qRgb(138, 107, 69)});
+    wood.fill(1);
+    wood.setPixel(0, 0, 0);
+    const QString file = folder.filePath("wood.png");
+    ASSERT_TRUE(wood.save(file));
+    const QImage picture = drawn(file, AppTheme::light);
+    const QColor middle = picture.pixelColor(14, 14);
+    EXPECT_GT(middle.red(), middle.green());
+    EXPECT_GT(middle.green(), middle.blue());
+    for (int y = 5; y < 23; ++y) {
+        for (int x = 5; x < 23; ++x)
+            ASSERT_EQ(picture.pixelColor(x, y), middle) << "at " << x << ", " << y;
+    }
+}
+
 TEST(FittedImageTest, IsEmptyWhereTheFileCannotBeRead) {
     const QImage nothing = drawn(QStringLiteral("/nowhere.png"), AppTheme::light);
     EXPECT_EQ(nothing.pixelColor(14, 14), panelPalette(AppTheme::light).color(QPalette::Window));

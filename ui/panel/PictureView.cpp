@@ -16,7 +16,9 @@ QImage composedPicture(const QImage& plate, const PictureFrame& frame) {
     image.fill(frame.field);
     if (plate.isNull())
         return image;
-    const QImage fitted = plate.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    // A palette's few colours would be dithered when scaled.
+    const QImage fitted = plate.convertToFormat(QImage::Format_RGB32)
+                              .scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     QPainter painter(&image);
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);
     painter.drawImage((pixels.width() - fitted.width()) / 2, (pixels.height() - fitted.height()) / 2, fitted);
