@@ -1,5 +1,6 @@
 #include "plates/engraver/Png.h"
 
+#include <array>
 #include <fstream>
 #include <png.h>
 #include <stdexcept>
@@ -76,11 +77,18 @@ std::vector<unsigned char> encodePng(const Picture& picture) {
 }
 
 std::vector<unsigned char> encodePlate(const Picture& picture) {
+    constexpr std::array counts{96, 72, 48, 32, 20, 12};
+    // From one count to the next a file loses a tenth or less.
+    constexpr double step = 1.12;
     std::vector<unsigned char> bytes;
-    for (const int colours : {96, 72, 48, 32, 20, 12}) {
-        bytes = encodePng(quantise(picture, colours));
+    for (std::size_t k = 0; k < counts.size(); ++k) {
+        bytes = encodePng(quantise(picture, counts[k]));
         if (bytes.size() <= largestFile)
             break;
+        // Too large by more than that: the next would not do either.
+        if (static_cast<double>(bytes.size()) > static_cast<double>(largestFile) * step &&
+            k + 2 < counts.size())
+            ++k;
     }
     return bytes;
 }

@@ -2,6 +2,7 @@
 
 #include "plates/engraver/Face.h"
 #include "plates/engraver/Noise.h"
+#include "plates/engraver/Profile.h"
 
 namespace tambrelle::engraver {
 
@@ -55,7 +56,47 @@ const Bed& bedAt(const std::vector<Bed>& beds, double level) {
 
 // Height of a face near its edge: rounded within `breadth` units or so, level further in.
 double rim(double depth, double breadth) {
-    return depth > 4 * breadth ? breadth : breadth * maths::tanh(depth / breadth);
+    static const Profile rounded(+[](double q) { return maths::tanh(4 * q); });
+    return breadth * rounded(depth / (4 * breadth));
+}
+
+// A slow function of the place, worked out at every `step` units and drawn straight between: relief asks for
+// it at every pixel.
+class Sampled {
+public:
+    Sampled(const Bounds& bounds, double step, const std::function<double(Point)>& function)
+        : origin_{bounds.left, bounds.top},
+          step_(step),
+          values_(static_cast<int>((bounds.right - bounds.left) / step) + 2,
+                  static_cast<int>((bounds.bottom - bounds.top) / step) + 2) {
+        for (int y = 0; y < values_.height(); ++y)
+            for (int x = 0; x < values_.width(); ++x)
+                values_(x, y) = static_cast<float>(function(origin_ + Point{x * step, y * step}));
+    }
+    double operator()(Point p) const {
+        const Point at = (p - origin_) * (1 / step_);
+        const int x = std::clamp(static_cast<int>(at.x), 0, values_.width() - 2),
+                  y = std::clamp(static_cast<int>(at.y), 0, values_.height() - 2);
+        const double right = maths::clamp01(at.x - x), down = maths::clamp01(at.y - y);
+        const auto value = [&](int i, int j) { return static_cast<double>(values_(x + i, y + j)); };
+        return maths::lerp(maths::lerp(value(0, 0), value(1, 0), right),
+                           maths::lerp(value(0, 1), value(1, 1), right), down);
+    }
+
+private:
+    Point origin_;
+    double step_;
+    Field values_;
+};
+
+Bounds around(const Box& box, double margin) {
+    Bounds b;
+    for (const Path& face : {box.leftFace(), box.rightFace(), box.top()})
+        for (const Point p : face) {
+            b.add(p - Point{margin, margin});
+            b.add(p + Point{margin, margin});
+        }
+    return b;
 }
 
 } // namespace
@@ -80,16 +121,18 @@ RoughBlock roughBlock(Plate& plate, const Box& box, const RoughBlockForm& form) 
     r.halo = 0.3;
     r.contour = 0.85;
     r.occlusion = false; // the grain is too shallow for hollows to show
-    const auto grain = [&](Point p) {
+    const Bounds room = around(box, 4 + 2 * form.ragged);
+    const Sampled grain(room, 0.5, [&](Point p) {
         return form.rough * noise(p.x / (form.grain * form.flat), p.y / form.grain);
-    };
+    });
+    const Sampled wave(room, 2, [&](Point p) { return form.wavy * waves(p.x / 26, p.y / 200); });
     // Far from every limit between beds the limits' waves cannot matter.
     const double reach = (3 * form.wavy + 4) / box.height;
     const auto level = [&](Point p, Point along) {
         const double straight = levelOn(p, box.front, along, box.height);
         for (std::size_t k = 0; k + 1 < form.beds.size(); ++k)
             if (std::fabs(straight - form.beds[k].to) < reach)
-                return straight + form.wavy / box.height * waves(p.x / 26, p.y / 200);
+                return straight + wave(p) / box.height;
         return straight;
     };
     const auto draw = [&](const Path& outline, Point along, double tone) {

@@ -84,7 +84,8 @@ static const Subject subject{
             };
             const double green = maths::smooth(0.8, 0.25, q);
             frizzyLeaf(p, {at(0.04, rise), at(0.5, rise + 6), at(1, rise)},
-                       (30 - 15 * q) * (0.8 + 0.2 * std::fabs(d.x)), mix(blanched, palettes::leaf, green),
+                       (30 - 15 * q) * (0.8 + 0.2 * std::fabs(d.x)),
+                       mix(blanched, mix(palettes::leaf, palettes::darkleaf, 0.4), green),
                        0.06 * (d.x + d.y) - 0.06 * (1 - green));
         }
     }};

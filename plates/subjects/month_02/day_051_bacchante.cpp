@@ -1,71 +1,92 @@
-// Groundsel bush, Baccharis halimifolia: a woody twig, wedge leaves with a few coarse teeth, heads like
-// small shaving brushes of white silk in green cups.
+// Groundsel bush, Baccharis halimifolia: woody forking twigs, wedge leaves with a few coarse teeth towards
+// the tip, and at the twigs' ends bunches of small heads like shaving brushes: white silk in green cups.
 
 #include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
 #include "plates/engraver/Tube.h"
-#include "plates/engraver/botany/CompoundLeaf.h"
 #include "plates/engraver/botany/Flower.h"
 #include "plates/engraver/botany/Leaf.h"
 
 using namespace tambrelle::engraver;
 
+namespace {
+
+void brush(Plate& p, Point at, double degrees, double size) {
+    const Point mouth = polar(at, degrees, size * 0.24);
+    for (int layer = 0; layer < 2; ++layer)
+        for (int k = -5; k <= 5; ++k) {
+            const double x = k / 5.0;
+            const Point base = mouth + rightOf(direction(degrees)) * (x * size * 0.1);
+            leaflet(p, base,
+                    polar(base, degrees + x * (36 - 10 * layer) + p.random.around(3),
+                          size * (0.78 - 0.2 * layer) * p.random.uniform(0.88, 1.06)),
+                    {.width = size * 0.06,
+                     .palette = palettes::whiteflower,
+                     .shape = {0.4, 0.6, 0.9, 1, 0.7, 0},
+                     .tone = 0.04 + 0.16 * layer + 0.16 * x,
+                     .contour = 0.7,
+                     .hatched = false,
+                     .midrib = false,
+                     .shade = 0.1});
+        }
+    scales(p, at, degrees,
+           {.radius = size * 0.13,
+            .length = size * 0.3,
+            .shape = {0.5, 1, 1, 0.95, 0.85},
+            .rows = 4,
+            .perRow = 5,
+            .spread = 6});
+}
+
+void wedgeLeaf(Plate& p, Point at, double degrees, double size) {
+    const Point foot = polar(at, degrees, size * 0.08);
+    p.stroke({at, foot}, {.width = 2, .swell = 0, .fade = 0});
+    leaf(p, {at, polar(at, degrees, size * 0.5), polar(at, degrees - (degrees < -90 ? -8 : 8), size)},
+         {.width = size * 0.22,
+          .shape = {0.06, 0.16, 0.4, 0.8, 1, 0.86, 0.5, 0.06},
+          .margin = dentate(4, 0.26),
+          .palette = mix(palettes::leaf, palettes::greygreen, 0.35),
+          .veins = 4});
+}
+
+} // namespace
+
 static const Subject subject{
     "day_051_bacchante", [](Plate& p) {
-        const auto brush = [&](Point at, double degrees, double size) {
-            const Point mouth = polar(at, degrees, size * 0.34);
-            for (int layer = 0; layer < 3; ++layer)
-                for (int k = -6; k <= 6; ++k) {
-                    const double x = k / 6.0;
-                    const Point base = mouth + rightOf(direction(degrees)) * (x * size * 0.13);
-                    leaflet(p, base,
-                            polar(base, degrees + x * (34 - 8 * layer) + p.random.around(3),
-                                  size * (0.86 - 0.2 * layer) * p.random.uniform(0.88, 1.06)),
-                            {.width = size * 0.042,
-                             .palette = palettes::whiteflower,
-                             .shape = {0.4, 0.6, 0.9, 1, 0.7, 0},
-                             .tone = -0.1 + 0.12 * layer + 0.12 * x,
-                             .contour = 0.45,
-                             .hatched = false,
-                             .midrib = false,
-                             .shade = 0.1});
-                }
-            scales(p, at, degrees,
-                   {.radius = size * 0.17,
-                    .length = size * 0.4,
-                    .shape = {0.6, 1, 1, 0.95, 0.85},
-                    .rows = 5,
-                    .perRow = 6,
-                    .spread = 6});
+        struct Bunch {
+            Path twig;
+            double degrees;
+            int heads;
         };
-        const Path main{{196, 350}, {206, 270}, {196, 190}, {202, 110}};
-        const Path curve = spline(main);
-        const LeafKind wedge{.shape = {0.08, 0.25, 0.6, 1, 0.9, 0.4, 0},
-                             .margin = dentate(3, 0.3),
-                             .veins = 3,
-                             .petiole = 0.06,
-                             .palette = palettes::leaf};
-        for (const auto& [q, degrees, size] : {std::tuple{0.12, -168.0, 104.0},
-                                               {0.18, -14.0, 106.0},
-                                               {0.34, -160.0, 112.0},
-                                               {0.4, -24.0, 110.0},
-                                               {0.55, -156.0, 92.0},
-                                               {0.58, -26.0, 92.0}})
-            growLeaf(p, along(curve, q), degrees, size, size * 0.21, wedge, degrees < -90 ? 5 : -5);
-        struct Head {
-            double from;
-            Point at;
-            double degrees, size;
-        };
-        const Head heads[] = {{0.6, {112, 176}, -138, 62},  {0.6, {288, 172}, -42, 62},
-                              {0.72, {146, 118}, -114, 68}, {0.72, {256, 116}, -66, 68},
-                              {0.8, {172, 164}, -122, 54},  {0.8, {232, 160}, -58, 54},
-                              {0.96, {202, 98}, -90, 74}};
-        for (const Head& h : heads) {
-            const Point from = along(curve, h.from);
-            tube(p, {from, lerp(from, h.at, 0.5) + Point{0, 8}, h.at}, {2.6, 2.2});
+        const Bunch bunches[] = {{{{194, 262}, {150, 222}, {104, 180}}, -118, 3},
+                                 {{{198, 246}, {244, 210}, {296, 172}}, -62, 3},
+                                 {{{196, 352}, {200, 270}, {194, 190}, {200, 136}}, -90, 5}};
+        for (const double q : {0.1, 0.3, 0.7})
+            for (const double side : {-1.0, 1.0})
+                wedgeLeaf(p, along(spline(bunches[2].twig), q + side * 0.04),
+                          -90 + side * (q < 0.5 ? 72 : 58), q < 0.5 ? 92 : 58);
+        for (const Bunch& b : {bunches[0], bunches[1]})
+            for (const double side : {-1.0, 1.0})
+                wedgeLeaf(p, along(spline(b.twig), 0.6 + side * 0.06), b.degrees + side * 66, 56);
+        for (const Bunch& b : bunches) {
+            const Point tip = b.twig.back();
+            struct Head {
+                Point at;
+                double degrees, size;
+            };
+            std::vector<Head> heads;
+            // From the rim to the middle, which lies uppermost.
+            for (int k = b.heads - 1; k >= 0; --k) {
+                const double rank = (k + 1) / 2 * (k % 2 == 0 ? 1.0 : -1.0);
+                const double x = rank / (b.heads / 2.0), out = b.degrees + x * 66;
+                heads.push_back({polar(tip, out, 34 - 8 * std::fabs(x)), out, 58});
+            }
+            for (const Head& head : heads)
+                tube(p,
+                     {tip, polar(tip, (head.degrees + b.degrees) / 2, 12), polar(head.at, head.degrees, 5)},
+                     {1.9, 1.6});
+            twig(p, b.twig, b.twig.size() > 3 ? Profile{5, 4, 2.4} : Profile{3.4, 2.8, 2});
+            for (const Head& head : heads)
+                brush(p, head.at, head.degrees, head.size);
         }
-        twig(p, main, {5, 4, 2.4});
-        for (const Head& h : heads)
-            brush(h.at, h.degrees, h.size);
     }};

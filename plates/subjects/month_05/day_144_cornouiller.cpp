@@ -20,7 +20,7 @@ static const Subject subject{
                      {.palette = cherry, .direction = -90 + x * 0.3, .squash = 1.5});
             }
         };
-        branch(p, {.spine = {{66, 88}, {150, 68}, {240, 78}, {336, 58}},
+        branch(p, {.spine = {{54, 88}, {138, 68}, {228, 78}, {314, 60}},
                    .radius = {4.6, 3.6, 2.2},
                    .leaf = {.shape = shapes::ovate, .veins = 4, .slant = 0.5, .petiole = 0.1},
                    .leaves = {{0.08, -118, 74, 20},
@@ -28,8 +28,8 @@ static const Subject subject{
                               {0.38, -66, 70, 20},
                               {0.7, -56, 74, 20},
                               {0.74, 62, 110, 28},
-                              {0.99, 30, 96, 26},
+                              {0.99, 34, 84, 24},
                               {0.99, -40, 66, 18}}});
-        fruits({164, 72}, {-28, 26, 0});
-        fruits({244, 80}, {-26, 26, 0});
+        fruits({152, 71}, {-28, 26, 0});
+        fruits({232, 79}, {-26, 26, 0});
     }};

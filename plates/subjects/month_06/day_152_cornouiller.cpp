@@ -15,25 +15,25 @@ static const Subject subject{
             for (const double a : {-70.0, 70.0, -25.0, 25.0})
                 leaflet(p, at, polar(at, degrees + a, 15),
                         {.width = 5.4, .palette = palettes::oldleaf, .shape = shapes::ovate});
-            corymb({.flower = flowers({.petals = 4,
-                                       .length = 8,
-                                       .width = 3.6,
-                                       .baseAngle = 74,
-                                       .tipAngle = 96,
-                                       .shape = shapes::lance,
-                                       .palette = palettes::yellow,
-                                       .tilt = 56,
-                                       .stamens = 4,
-                                       .stamenLength = 0.8,
-                                       .washLift = 0.2}),
-                    .count = 13,
-                    .spread = 200,
-                    .length = 25})(p, spline({at, polar(at, degrees, 3), polar(at, degrees, 6)}));
+            const FlowerAt star = flowers({.petals = 4,
+                                           .length = 9.5,
+                                           .width = 4.2,
+                                           .baseAngle = 74,
+                                           .tipAngle = 96,
+                                           .shape = shapes::lance,
+                                           .palette = palettes::yellow,
+                                           .tilt = 56,
+                                           .stamens = 4,
+                                           .stamenLength = 0.8,
+                                           .washLift = 0.2});
+            const Path axis = spline({at, polar(at, degrees, 3), polar(at, degrees, 6)});
+            corymb({.flower = star, .count = 7, .spread = 190, .length = 24})(p, axis);
+            corymb({.flower = star, .count = 3, .spread = 110, .length = 12})(p, axis);
         };
         const Path main = twig(p, {{76, 300}, {150, 236}, {236, 170}, {316, 76}}, {6, 4.6, 2.6});
         const Path side = twig(p, {along(main, 0.34), {176, 170}, {158, 96}}, {3.8, 2.4});
         const Path low = twig(p, {along(main, 0.42), {250, 238}, {318, 230}}, {3.8, 2.4});
-        for (const double q : {0.12, 0.56, 0.78})
+        for (const double q : {0.12, 0.74})
             for (const double s : {-90.0, 90.0})
                 umbels(main, q, angleAlong(main, q) + s);
         for (const double s : {-90.0, 90.0}) {

@@ -1,47 +1,74 @@
-// Hedge mustard, Sisymbrium officinale: lyrate leaves, wiry wide branches with pods pressed close to them and
-// a tuft of tiny yellow flowers at each tip.
+// Hedge mustard, Sisymbrium officinale: wiry branches that stand out wide from the stem, slim pods pressed
+// close along them and a small tuft of yellow four-petalled flowers at each tip; lyrate leaves below. Part of
+// a branch enlarged, below.
 
+#include "plates/engraver/Path.h"
 #include "plates/engraver/Subject.h"
-#include "plates/engraver/botany/Herb.h"
+#include "plates/engraver/Tube.h"
+#include "plates/engraver/botany/CompoundLeaf.h"
+#include "plates/engraver/botany/Flower.h"
 #include "plates/engraver/botany/Inflorescence.h"
-#include "plates/engraver/botany/Pod.h"
+#include "plates/engraver/botany/Roots.h"
 
 using namespace tambrelle::engraver;
 
+namespace {
+
+/// Awl-shaped pods that lie along a branch between two shares of its length.
+void pressedPods(Plate& p, const Path& curve, double from, double to, double length, double radius) {
+    const int count = static_cast<int>(arcLength(curve) * (to - from) / (length * 0.52));
+    for (int k = count - 1; k >= 0; --k) {
+        const double q = from + (to - from) * k / count, side = k % 2 == 0 ? 1 : -1;
+        const double way = angleAlong(curve, q);
+        const Point at = polar(along(curve, q), way + 90 * side, radius * 0.7);
+        leaf(p, {at, polar(at, way + side * 15, length * 0.4), polar(at, way + side * 9, length)},
+             {.width = length * 0.095,
+              .shape = {0.4, 1, 1, 0.8, 0.5, 0.1},
+              .palette = palettes::leafy,
+              .veins = 0,
+              .parallel = true,
+              .contour = 0.6,
+              .midrib = 0.5});
+    }
+}
+
+} // namespace
+
 static const Subject subject{
     "day_164_velar", [](Plate& p) {
-        herb(p, {.height = 240,
-                 .stems = {-120, 116, -58, 60, 0},
-                 .stemRadius = 3,
-                 .leaf = {.shape = shapes::obovate, .margin = lobed(3, 0.5), .veins = 4, .petiole = 0.12},
-                 .leaves = 3,
-                 .leavesFrom = 0.1,
-                 .leavesTo = 0.4,
-                 .leafLength = 92,
-                 .topLeafLength = 48,
-                 .leafWidth = 24,
-                 .topLeafWidth = 12,
-                 .leafAngle = 52,
-                 .root = RootKind::taproot,
-                 .inflorescence = together(
-                     {[](Plate& plate, const Path& curve) {
-                          for (int k = 0; k < 8; ++k) {
-                              const double q = 0.46 + 0.06 * k, s = k % 2 == 0 ? 1 : -1,
-                                           way = angleAlong(curve, q);
-                              const Point at = polar(along(curve, q), way + 90, s * 2.6);
-                              pod(plate, {at, polar(at, way + s * 9, 13), polar(at, way + s * 3, 28)},
-                                  {.width = 2.1, .seeds = 4, .open = false});
-                          }
-                      },
-                      corymb({.flower = flowers({.petals = 4,
-                                                 .length = 8.5,
-                                                 .width = 5,
-                                                 .baseAngle = 70,
-                                                 .tipAngle = 88,
-                                                 .palette = palettes::yellow,
-                                                 .tilt = 60,
-                                                 .washLift = 0.22}),
-                              .count = 7,
-                              .spread = 180,
-                              .length = 14})})});
+        const LeafKind lyrate{.build = LeafKind::Build::pinnate,
+                              .shape = shapes::ovate,
+                              .margin = dentate(4, 0.24),
+                              .veins = 4,
+                              .petiole = 0.16,
+                              .leaflets = 2,
+                              .leafletWidth = 0.36};
+        const Path branches[] = {{{200, 240}, {146, 214}, {78, 196}},
+                                 {{201, 226}, {260, 200}, {322, 176}},
+                                 {{200, 190}, {150, 156}, {104, 106}},
+                                 {{201, 178}, {246, 138}, {284, 86}},
+                                 {{196, 346}, {202, 240}, {199, 150}, {202, 58}}};
+        rootlets(p, {196, 348}, 9, 90, 80, 20);
+        growLeaf(p, {197, 322}, -164, 106, 27, lyrate, 14);
+        growLeaf(p, {197, 318}, -136, 92, 24, lyrate, 14);
+        growLeaf(p, {198, 322}, -22, 76, 20, lyrate, -14);
+        const FlowerAt blossom = flowers({.petals = 4,
+                                          .length = 9,
+                                          .width = 4.6,
+                                          .baseAngle = 66,
+                                          .tipAngle = 88,
+                                          .palette = palettes::yellow,
+                                          .tilt = 58,
+                                          .washLift = 0.2});
+        for (const Path& branch : branches) {
+            const Path curve = spline(branch);
+            const bool main = branch.size() > 3;
+            tube(p, branch, main ? Profile{3.6, 2.6, 1.4} : Profile{2.2, 1.4}, {.palette = palettes::stem});
+            pressedPods(p, curve, main ? 0.52 : 0.2, 0.96, 22, 1.8);
+            corymb({.flower = blossom, .count = 6, .spread = 170, .length = 11})(p, curve);
+        }
+        // Enlarged.
+        const Path piece{{304, 350}, {309, 296}, {308, 238}};
+        tube(p, piece, {3.6, 3.2}, {.palette = palettes::stem, .cutEnd = true});
+        pressedPods(p, spline(piece), 0.06, 0.8, 40, 3.2);
     }};

@@ -26,10 +26,10 @@ static const Subject subject{
                       .scatter = 3,
                       .palette = ripe});
         };
-        strapLeaf(p, {182, 328}, -160, 100, 7, 44, palettes::oldleaf);
-        strapLeaf(p, {211, 312}, -20, 74, 7, 36, palettes::oldleaf);
-        uprightEar({{198, 352}, {172, 312}, {150, 272}}, {{150, 274}, {128, 234}, {104, 186}}, 0.95);
-        uprightEar({{204, 352}, {214, 290}, {236, 250}}, {{235, 252}, {260, 200}, {292, 148}}, 1.12);
-        earSection(p, {330, 312},
+        strapLeaf(p, {174, 328}, -160, 100, 7, 44, palettes::oldleaf);
+        strapLeaf(p, {204, 312}, -20, 74, 7, 36, palettes::oldleaf);
+        uprightEar({{192, 352}, {164, 312}, {140, 272}}, {{140, 274}, {118, 234}, {94, 186}}, 0.95);
+        uprightEar({{198, 352}, {206, 290}, {226, 250}}, {{225, 252}, {248, 200}, {278, 148}}, 1.12);
+        earSection(p, {322, 312},
                    {.grains = {-90, -30, 30, 90, 150, 210}, .length = 36, .width = 9.5, .palette = ripe});
     }};
