@@ -2,6 +2,7 @@
 #include "platform/freedesktop/Display.h"
 #include "platform/freedesktop/EmojiFont.h"
 #include "platform/freedesktop/FreedesktopPlatform.h"
+#include "platform/freedesktop/SessionBus.h"
 #include "platform/freedesktop/TerminationSignals.h"
 #include "ui/TambrelleApp.h"
 
@@ -29,11 +30,12 @@ int main(int argc, char** argv) {
     // Not by way of the windows' consent: who sends a signal does not wait for it.
     QObject::connect(&termination, &TerminationSignals::received, &application, [] { QApplication::exit(); });
 
-    ApplicationService service;
+    const SessionBus bus;
+    ApplicationService service(bus);
     std::optional<FreedesktopPlatform> platform;
     std::optional<TambrelleApp> tambrelle;
     QObject::connect(&service, &ApplicationService::claimed, &application, [&] {
-        platform.emplace();
+        platform.emplace(bus);
         const StatusItem& item = platform->ports().statusItem;
         // Before the application's own connections, and not at the start: to ask for fonts costs as much as
         // the rest of it, and the bar's line names its own.

@@ -1,5 +1,7 @@
 #include "platform/freedesktop/ApplicationService.h"
 
+#include "platform/freedesktop/SessionBus.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -48,21 +50,27 @@ std::optional<QString> signatureOf(const QString& member) {
 
 } // namespace
 
-ApplicationService::ApplicationService(QObject* parent) : QDBusVirtualObject(parent) {
+ApplicationService::ApplicationService(const SessionBus& bus, QObject* parent)
+    : QDBusVirtualObject(parent), bus(bus) {
     patience.setSingleShot(true);
     connect(&patience, &QTimer::timeout, this, &ApplicationService::settle);
 }
 
 void ApplicationService::claim() {
-    QDBusConnection bus = QDBusConnection::sessionBus();
+    patience.start(busPatience);
+    join();
+    connect(&bus, &SessionBus::changed, this, &ApplicationService::join);
+}
+
+void ApplicationService::join() {
+    QDBusConnection connection = bus.connection();
     // On the bus before its name is, so that whoever sees the name finds the object.
-    bus.registerVirtualObject(applicationPath, this);
+    connection.registerVirtualObject(applicationPath, this);
     QDBusMessage request = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
     request.setArguments({applicationName, doNotQueue});
-    patience.start(busPatience);
-    auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(request), this);
+    auto* answer = new QDBusPendingCallWatcher(connection.asyncCall(request), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* call) {
         call->deleteLater();
         const QDBusPendingReply<uint> reply = *call;
@@ -87,7 +95,7 @@ void ApplicationService::deferToFirst() {
                                                            applicationInterface, QStringLiteral("Activate"));
     activate.setArguments({QVariantMap()});
     auto* answer = new QDBusPendingCallWatcher(
-        QDBusConnection::sessionBus().asyncCall(activate, static_cast<int>(busPatience.count())), this);
+        bus.connection().asyncCall(activate, static_cast<int>(busPatience.count())), this);
     // Asked is enough: the first one may be busy, and this one is not wanted either way.
     connect(answer, &QDBusPendingCallWatcher::finished, this, &ApplicationService::deferred);
 }

@@ -5,13 +5,16 @@
 
 namespace tambrelle {
 
+class SessionBus;
+
 /// The application on the session bus as `org.freedesktop.Application`, which makes it the only one of its
 /// user: a second start asks the first to show its panel and ends.
 class ApplicationService final : public QDBusVirtualObject {
     Q_OBJECT
 
 public:
-    explicit ApplicationService(QObject* parent = nullptr);
+    /// `bus` outlives the service.
+    explicit ApplicationService(const SessionBus& bus, QObject* parent = nullptr);
 
     /// Asks the bus for the application's name; one of the two signals below tells the answer. Without a bus,
     /// or with one that does not answer, the application takes itself for the only one.
@@ -32,9 +35,11 @@ signals:
     void quitRequested();
 
 private:
+    void join();
     void settle();
     void deferToFirst();
 
+    const SessionBus& bus;
     QTimer patience;
     bool settled = false;
 };

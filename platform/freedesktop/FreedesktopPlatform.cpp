@@ -5,6 +5,7 @@
 #include "platform/freedesktop/EventLoopTimer.h"
 #include "platform/freedesktop/IniUserDefaults.h"
 #include "platform/freedesktop/InstalledResources.h"
+#include "platform/freedesktop/SessionBus.h"
 #include "platform/freedesktop/SystemClock.h"
 #include "platform/freedesktop/SystemRandomSource.h"
 #include "platform/freedesktop/notifications/EventLoopWakeUp.h"
@@ -19,6 +20,11 @@
 namespace tambrelle {
 
 struct FreedesktopPlatform::Parts {
+    explicit Parts(const SessionBus& bus) : notificationService(bus.connection()), statusItem(bus) {
+        QObject::connect(&bus, &SessionBus::changed, &notificationService,
+                         [this, &bus] { notificationService.follow(bus.connection()); });
+    }
+
     SystemClock clock;
     EventLoopTimer timer;
     SystemRandomSource random;
@@ -27,14 +33,14 @@ struct FreedesktopPlatform::Parts {
     SpawnedAudioPlayer audioPlayer{SpawnedAudioPlayer::standardProgram()};
     ThemedSystemSound systemSound;
     EventLoopWakeUp wakeUp{clock};
-    FreedesktopNotificationService notificationService{QDBusConnection::sessionBus()};
+    FreedesktopNotificationService notificationService;
     ScheduledNotificationCenter notifications{clock, wakeUp, notificationService};
     AutostartLoginItem loginItem{AutostartLoginItem::standardFolder(),
                                  QCoreApplication::applicationFilePath()};
     FreedesktopStatusItem statusItem;
 };
 
-FreedesktopPlatform::FreedesktopPlatform() : parts(std::make_unique<Parts>()) {}
+FreedesktopPlatform::FreedesktopPlatform(const SessionBus& bus) : parts(std::make_unique<Parts>(bus)) {}
 
 FreedesktopPlatform::~FreedesktopPlatform() = default;
 

@@ -6,11 +6,13 @@
 
 namespace tambrelle {
 
+class SessionBus;
+
 /// Every port on a freedesktop desktop, made together and torn down together. Needs the toolkit's application
-/// object.
+/// object. The bus outlives it.
 class FreedesktopPlatform final {
 public:
-    FreedesktopPlatform();
+    explicit FreedesktopPlatform(const SessionBus& bus);
     ~FreedesktopPlatform();
 
     FreedesktopPlatform(const FreedesktopPlatform&) = delete;

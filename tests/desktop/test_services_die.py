@@ -29,7 +29,11 @@ class ServicesDie(DesktopTest):
         return pathlib.Path(f"/proc/{program.pid}/task/{program.pid}/children").read_text().split()
 
 
-class Notifications(ServicesDie):
+class ServicesWithNotifications(ServicesDie):
+    @property
+    def record(self):
+        return self.desktop.directory / "notifications"
+
     def start_server(self):
         script = pathlib.Path(__file__).with_name("notification_server.py")
         copy = self.desktop.directory / script.name
@@ -38,6 +42,13 @@ class Notifications(ServicesDie):
         until("the notification service is there", lambda: self.desktop.bus.has_owner(NOTIFICATIONS))
         return server
 
+    def titles(self):
+        if not self.record.exists():
+            return []
+        return [json.loads(line)["summary"] for line in self.record.read_text(encoding="utf-8").splitlines()]
+
+
+class Notifications(ServicesWithNotifications):
     def end_all_servers(self):
         """The one of ours, and those that the bus may start when the program asks for one."""
         def none_is_left():
@@ -47,14 +58,8 @@ class Notifications(ServicesDie):
             return False
         until("no notification service is left", none_is_left)
 
-    def titles(self):
-        if not self.record.exists():
-            return []
-        return [json.loads(line)["summary"] for line in self.record.read_text(encoding="utf-8").splitlines()]
-
     def test_no_morning_comes_twice_and_the_last_one_comes(self):
         random = chance()
-        self.record = self.desktop.directory / "notifications"
         day = datetime.date(2025, 11, 15)
         self.desktop.clock.set(f"{day} 07:00:00")
         program = self.start_program(preferences=SILENT)
@@ -139,26 +144,87 @@ class TheBar(ServicesDie):
         self.assertEqual(remarks, [])
 
 
-class SessionBus(ServicesDie):
+class SessionBus(ServicesWithNotifications):
+    NAME = "org.tambrelle.Tambrelle"
+    NO_SERVICES = "<servicedir>/nonexistent</servicedir>"  # that the bus could start beside those of the test
+
+    def kill_bus(self):
+        self.desktop.bus.process.kill()
+        (self.desktop.directory / "session-bus").unlink()
+        self.desktop.bus.close()
+
+    def start_bus(self):
+        self.desktop.bus = Bus(self.desktop.processes, "session-bus", self.NO_SERVICES)
+
+    def look(self, program):
+        """The pixels of the program's one window: nobody can tell by the bus any more what it shows."""
+        program.must_run()
+        window, = self.desktop.x11.windows_of(program.pid)
+        return self.desktop.picture().cropped(window.x, window.y, window.width, window.height).ppm()
+
+    def wait_for_name(self, program):
+        until("the program has its name again", lambda: self.desktop.bus.pid_of(self.NAME) == program.pid)
+
     def test_dies_and_returns(self):
-        """Nobody can tell by the bus any more what it shows: that it ticks on can be seen."""
         self.desktop.clock.set(NOON)
         program = self.start_program(preferences=SILENT)
         program.wait_for_text(LINE)
-
-        def look():
-            program.must_run()
-            window, = self.desktop.x11.windows_of(program.pid)
-            return self.desktop.picture().cropped(window.x, window.y, window.width, window.height).ppm()
-
         for hour in (6, 7):
-            before = look()
-            self.desktop.bus.process.kill()
-            (self.desktop.directory / "session-bus").unlink()
-            self.desktop.bus.close()
-            self.desktop.bus = Bus(self.desktop.processes, "session-bus", Bus.SESSION)
+            before = self.look(program)
+            self.kill_bus()
             self.desktop.clock.set(f"2025-11-15 {hour * 144 // 60:02}:{hour * 144 % 60:02}:00")
-            until("the label ticks on", lambda: look() != before, 5)
+            until("the label ticks on", lambda: self.look(program) != before, 5)
+            self.start_bus()
+            self.wait_for_name(program)
+        self.assertEqual(self.start_program().wait(), 0, "a second start finds the first")
+        until("it has opened the panel", lambda: len(self.desktop.x11.windows_of(program.pid)) == 2)
+        self.assertEqual(program.output(), "")
+
+    def test_comes_late(self):
+        self.kill_bus()
+        self.desktop.clock.set(NOON)
+        program = self.start_program(preferences=SILENT)
+        until("the label floats", lambda: self.desktop.x11.windows_of(program.pid))
+        self.start_bus()
+        self.wait_for_name(program)
+
+    def test_the_morning_after_is_shown(self):
+        self.desktop.clock.set("2025-11-15 07:00:00")
+        program = self.start_program(preferences=SILENT)
+        self.wait_for_name(program)
+        self.kill_bus()
+        self.start_bus()
+        self.wait_for_name(program)
+        server = self.start_server()
+        self.desktop.clock.set("2025-11-15 07:59:59")
+        until("the morning is shown", lambda: self.titles(), 15)
+        server.stop()
+
+    def test_a_morning_without_a_bus_is_shown_when_it_returns(self):
+        self.desktop.clock.set("2025-11-15 07:59:00")
+        program = self.start_program(preferences=SILENT)
+        until("the label floats", lambda: self.desktop.x11.windows_of(program.pid))
+        before = self.look(program)
+        self.kill_bus()
+        self.desktop.clock.set("2025-11-15 08:01:30")
+        until("the label ticks on", lambda: self.look(program) != before, 5)
+        self.start_bus()
+        self.start_server()
+        until("the morning is shown", lambda: self.titles(), 15)
+        self.assertEqual(len(self.titles()), 1)
+
+    def test_the_item_is_in_the_bar_again(self):
+        """For hosts that take items."""
+        self.desktop.clock.set(NOON)
+        program = self.start_program(preferences=SILENT)
+        program.wait_for_title(LINE)
+        for _ in range(2):
+            self.kill_bus()
+            until("the line floats", lambda: self.desktop.x11.windows_of(program.pid))
+            self.start_bus()
+            self.desktop.restart_bar()
+            program.wait_for_title(LINE)
+        program.must_run()
 
 
 if __name__ == "__main__":

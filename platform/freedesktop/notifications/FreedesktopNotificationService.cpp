@@ -3,7 +3,6 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
 #include <QVariantMap>
 
 #include <chrono>
@@ -63,10 +62,16 @@ QVariantMap hints(PresentationOptions options) {
 
 } // namespace
 
-FreedesktopNotificationService::FreedesktopNotificationService(const QDBusConnection& bus) : bus(bus) {
-    auto* const watcher =
-        new QDBusServiceWatcher(serviceName, bus, QDBusServiceWatcher::WatchForRegistration, this);
-    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &FreedesktopNotificationService::arrived);
+FreedesktopNotificationService::FreedesktopNotificationService(const QDBusConnection& bus)
+    : bus(bus), services(serviceName, bus, QDBusServiceWatcher::WatchForRegistration) {
+    connect(&services, &QDBusServiceWatcher::serviceRegistered, this,
+            &FreedesktopNotificationService::arrived);
+}
+
+void FreedesktopNotificationService::follow(const QDBusConnection& next) {
+    bus = next;
+    services.setConnection(next);
+    arrived();
 }
 
 void FreedesktopNotificationService::whenReachable(std::function<void()> reachable) {

@@ -3,6 +3,7 @@
 #include "platform/freedesktop/notifications/NotificationService.h"
 
 #include <QDBusConnection>
+#include <QDBusServiceWatcher>
 #include <QObject>
 #include <QStringList>
 
@@ -18,6 +19,9 @@ namespace tambrelle {
 class FreedesktopNotificationService final : public QObject, public NotificationService {
 public:
     explicit FreedesktopNotificationService(const QDBusConnection& bus);
+
+    /// Turns to another connection, and there again to what waits for a service.
+    void follow(const QDBusConnection& next);
 
     void whenReachable(std::function<void()> reachable) override;
     void show(const UserNotificationRequest& request, PresentationOptions options) override;
@@ -35,6 +39,7 @@ private:
     void notify(const Notification& notification, bool readsMarkup);
 
     QDBusConnection bus;
+    QDBusServiceWatcher services;
     std::vector<std::function<void()>> waiting;
     std::optional<Notification> unshown;
 };

@@ -1,5 +1,6 @@
 #include "platform/freedesktop/statusitem/FreedesktopStatusItem.h"
 
+#include "platform/freedesktop/SessionBus.h"
 #include "platform/freedesktop/statusitem/DockedIconPresentation.h"
 #include "platform/freedesktop/statusitem/DockedLinePresentation.h"
 #include "platform/freedesktop/statusitem/FloatingLabelPresentation.h"
@@ -47,18 +48,15 @@ Bar barOf(const QString& program) {
 
 } // namespace
 
-FreedesktopStatusItem::FreedesktopStatusItem(QObject* parent) : StatusItem(parent) {
+FreedesktopStatusItem::FreedesktopStatusItem(const SessionBus& bus, QObject* parent)
+    : StatusItem(parent), bus(bus) {
     connect(&tray, &TrayManager::changed, this, [this] {
         lineRefused = false;
         iconRefused = false;
         choose();
     });
-    connect(&watcher, &NotifierWatcher::changed, this, [this] {
-        patience.stop();
-        watcherKnown = true;
-        watcherRefused = false;
-        choose();
-    });
+    watch();
+    connect(&bus, &SessionBus::changed, this, &FreedesktopStatusItem::watch);
     patience.setSingleShot(true);
     connect(&patience, &QTimer::timeout, this, [this] {
         watcherKnown = true;
@@ -68,6 +66,16 @@ FreedesktopStatusItem::FreedesktopStatusItem(QObject* parent) : StatusItem(paren
 }
 
 FreedesktopStatusItem::~FreedesktopStatusItem() = default;
+
+void FreedesktopStatusItem::watch() {
+    watcher = std::make_unique<NotifierWatcher>(bus.connection());
+    connect(watcher.get(), &NotifierWatcher::changed, this, [this] {
+        patience.stop();
+        watcherKnown = true;
+        watcherRefused = false;
+        choose();
+    });
+}
 
 void FreedesktopStatusItem::present(const StatusItemContent& next) {
     if (next == content)
@@ -86,8 +94,8 @@ void FreedesktopStatusItem::choose() {
     presentations.clear();
     if (!content || !watcherKnown)
         return;
-    const Bar bar = barOf(watcher.program());
-    const bool notified = watcher.isPresent() && !watcherRefused;
+    const Bar bar = barOf(watcher->program());
+    const bool notified = watcher->isPresent() && !watcherRefused;
     const bool docked = tray.isPresent() && !lineRefused && !(notified && bar.betterThanDocked);
     if (docked) {
         add(std::make_unique<DockedLinePresentation>(tray), [this] { lineRefused = true; });
@@ -97,7 +105,8 @@ void FreedesktopStatusItem::choose() {
     if (!notified || !bar.showsLine)
         label = std::make_unique<FloatingLabelPresentation>();
     if (notified) {
-        add(std::make_unique<NotifierPresentation>(bar.appearance), [this] { watcherRefused = true; });
+        add(std::make_unique<NotifierPresentation>(bus.connection(), bar.appearance),
+            [this] { watcherRefused = true; });
     } else if (tray.isPresent() && !iconRefused) {
         auto icon = std::make_unique<DockedIconPresentation>(tray);
         connect(icon.get(), &DockedIconPresentation::settledIn, label.get(),

@@ -14,23 +14,27 @@
 namespace tambrelle {
 
 class Presentation;
+class SessionBus;
 
 /// Looks at the desktop, chooses how the line gets into its bar, and looks again whenever the bar changes.
 class FreedesktopStatusItem final : public StatusItem {
     Q_OBJECT
 
 public:
-    explicit FreedesktopStatusItem(QObject* parent = nullptr);
+    /// `bus` outlives the item.
+    explicit FreedesktopStatusItem(const SessionBus& bus, QObject* parent = nullptr);
     ~FreedesktopStatusItem() override;
 
     void present(const StatusItemContent& content) override;
 
 private:
+    void watch();
     void choose();
     void add(std::unique_ptr<Presentation> presentation, std::function<void()> onRefusal);
 
+    const SessionBus& bus;
     TrayManager tray;
-    NotifierWatcher watcher;
+    std::unique_ptr<NotifierWatcher> watcher; ///< On the present bus.
     QTimer patience;
     bool watcherKnown = false;   ///< Whether the bus has said who takes items, if anybody.
     bool lineRefused = false;    ///< Whether the present tray has given the line too little room.

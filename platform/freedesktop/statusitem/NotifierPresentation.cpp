@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 #include <QCursor>
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -77,8 +76,10 @@ IconPixmaps wideLine(const QString& line) {
 
 } // namespace
 
-NotifierPresentation::NotifierPresentation(const NotifierAppearance& appearance, QObject* parent)
+NotifierPresentation::NotifierPresentation(const QDBusConnection& bus, const NotifierAppearance& appearance,
+                                           QObject* parent)
     : Presentation(parent),
+      bus(bus),
       appearance(appearance),
       serviceName(freshServiceName()),
       item(new NotifierObject(appearance.style, this)),
@@ -91,7 +92,6 @@ NotifierPresentation::NotifierPresentation(const NotifierAppearance& appearance,
 }
 
 NotifierPresentation::~NotifierPresentation() {
-    QDBusConnection bus = QDBusConnection::sessionBus();
     bus.unregisterObject(NotifierObject::path);
     bus.unregisterObject(NotifierObject::menuPath);
     bus.send(callToBus(QStringLiteral("ReleaseName"), {serviceName}));
@@ -120,7 +120,6 @@ void NotifierPresentation::noteActivation(QPoint position) {
 }
 
 void NotifierPresentation::claimName() {
-    QDBusConnection bus = QDBusConnection::sessionBus();
     bus.registerVirtualObject(NotifierObject::path, item);
     if (appearance.style.menu)
         bus.registerVirtualObject(NotifierObject::menuPath, menu);
@@ -153,8 +152,8 @@ void NotifierPresentation::registerWithWatcher() {
                                                        NotifierWatcher::service,
                                                        QStringLiteral("RegisterStatusNotifierItem"));
     call.setArguments({serviceName});
-    auto* registration = new QDBusPendingCallWatcher(
-        QDBusConnection::sessionBus().asyncCall(call, static_cast<int>(watcherPatience.count())), this);
+    auto* registration =
+        new QDBusPendingCallWatcher(bus.asyncCall(call, static_cast<int>(watcherPatience.count())), this);
     connect(registration, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* answer) {
         answer->deleteLater();
         if (answer->isError())
@@ -169,7 +168,7 @@ void NotifierPresentation::sendSignal(const QString& name, const QVariantList& a
     QDBusMessage signal =
         QDBusMessage::createSignal(NotifierObject::path, QStringLiteral("org.kde.StatusNotifierItem"), name);
     signal.setArguments(arguments);
-    QDBusConnection::sessionBus().send(signal);
+    bus.send(signal);
 }
 
 } // namespace tambrelle

@@ -3,6 +3,7 @@
 #include "platform/freedesktop/statusitem/NotifierObject.h"
 #include "platform/freedesktop/statusitem/Presentation.h"
 
+#include <QDBusConnection>
 #include <QElapsedTimer>
 
 #include <cstdint>
@@ -23,7 +24,8 @@ class NotifierPresentation final : public Presentation {
     Q_OBJECT
 
 public:
-    explicit NotifierPresentation(const NotifierAppearance& appearance, QObject* parent = nullptr);
+    NotifierPresentation(const QDBusConnection& bus, const NotifierAppearance& appearance,
+                         QObject* parent = nullptr);
     ~NotifierPresentation() override;
 
     void present(const StatusItemContent& content) override;
@@ -39,6 +41,7 @@ private slots:
 private:
     void sendSignal(const QString& name, const QVariantList& arguments);
 
+    QDBusConnection bus;
     NotifierAppearance appearance;
     QString serviceName;
     NotifierObject* item;

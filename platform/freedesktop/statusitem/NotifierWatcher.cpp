@@ -1,6 +1,5 @@
 #include "platform/freedesktop/statusitem/NotifierWatcher.h"
 
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -32,8 +31,7 @@ QString programOf(uint pid) {
 
 } // namespace
 
-NotifierWatcher::NotifierWatcher(QObject* parent) : QObject(parent) {
-    const QDBusConnection bus = QDBusConnection::sessionBus();
+NotifierWatcher::NotifierWatcher(const QDBusConnection& bus, QObject* parent) : QObject(parent), bus(bus) {
     // Subscribed before asked, so that a watcher that comes in between is not missed.
     auto* owners = new QDBusServiceWatcher(service, bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(owners, &QDBusServiceWatcher::serviceOwnerChanged, this,
@@ -57,9 +55,8 @@ void NotifierWatcher::follow(const QString& owner) {
         settle(QString());
         return;
     }
-    auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(callToBus(
-                                                   QStringLiteral("GetConnectionUnixProcessID"), owner)),
-                                               this);
+    auto* answer = new QDBusPendingCallWatcher(
+        bus.asyncCall(callToBus(QStringLiteral("GetConnectionUnixProcessID"), owner)), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, asked](QDBusPendingCallWatcher* call) {
         call->deleteLater();
         const QDBusPendingReply<uint> reply = *call;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QObject>
 #include <QString>
 
@@ -20,7 +21,7 @@ public:
 
     /// Asks the bus who the watcher is; `changed` tells the first answer too, which may be that there is
     /// none.
-    explicit NotifierWatcher(QObject* parent = nullptr);
+    explicit NotifierWatcher(const QDBusConnection& bus, QObject* parent = nullptr);
 
     /// The program that takes the items, as the kernel names it (at most 15 characters); empty without a
     /// watcher.
@@ -35,6 +36,7 @@ private:
     void follow(const QString& owner);
     void settle(const QString& program);
 
+    QDBusConnection bus;
     QString programName;
     uint question = 0; ///< Numbers the questions to the bus: the answer to an outdated one is dropped.
 };
