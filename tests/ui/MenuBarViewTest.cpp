@@ -107,6 +107,22 @@ TEST_F(MenuBarViewTest, ADayWithNeitherItemNorEvent) {
     EXPECT_TRUE(shows("Days Since Last Guillotine"));
 }
 
+TEST_F(MenuBarViewTest, ThePictureGivesWayOnALowScreen) {
+    open(test::anItemAndAnEvent);
+    auto* picture = panel->findChild<PictureView*>();
+    ASSERT_EQ(picture->height(), PanelMetrics::pictureHeight);
+    const int whole = panel->height();
+    panel->setRoom(whole - 40);
+    EXPECT_EQ(panel->height(), whole - 40);
+    EXPECT_EQ(picture->height(), PanelMetrics::pictureHeight - 40);
+    panel->setRoom(200);
+    EXPECT_EQ(picture->height(), PanelMetrics::leastPictureHeight);
+    EXPECT_GT(panel->height(), 200);
+    panel->setRoom(whole + 1);
+    EXPECT_EQ(picture->height(), PanelMetrics::pictureHeight);
+    EXPECT_EQ(panel->height(), whole);
+}
+
 TEST_F(MenuBarViewTest, ShowsThreeEventsAtMostInTheirOrder) {
     open(test::anItemAndNoEvent);
     PanelSnapshot full =

@@ -8,7 +8,7 @@ namespace {
 constexpr QSize panel{320, 700};
 
 QRect placed(QPoint click, QRect available) {
-    return PanelPlacement{.click = click, .available = available}.place(panel);
+    return PanelPlacement{.click = click, .available = available, .top = {}}.place(panel);
 }
 
 TEST(PanelPlacementTest, StandsUnderABarAtTheTop) {
@@ -28,6 +28,24 @@ TEST(PanelPlacementTest, LeavesTheItemInViewWhereNoBarKeepsItsPlaceFree) {
     const QRect screen(0, 0, 1920, 1080);
     EXPECT_FALSE(placed({960, 13}, screen).contains(960, 13));
     EXPECT_FALSE(placed({960, 1067}, screen).contains(960, 1067));
+}
+
+TEST(PanelPlacementTest, AnOpenPanelKeepsItsTopWhileThereIsRoom) {
+    const PanelPlacement open{.click = {960, 1067}, .available = {0, 0, 1920, 1054}, .top = 300};
+    EXPECT_EQ(open.place({320, 500}).top(), 300);
+    EXPECT_EQ(open.place({320, 754}).top(), 300);
+    EXPECT_EQ(open.place({320, 800}).top(), 254);
+}
+
+TEST(PanelPlacementTest, ItsRoomEndsBeforeTheClick) {
+    const QRect available(0, 0, 1366, 768);
+    for (const QPoint click : {QPoint(1200, 19), QPoint(1200, 750)}) {
+        const PanelPlacement placement{.click = click, .available = available, .top = {}};
+        EXPECT_FALSE(placement.place({320, placement.room()}).contains(click)) << click.y();
+        EXPECT_GT(placement.room(), 700);
+    }
+    const PanelPlacement underABar{.click = {700, 13}, .available = {0, 26, 1366, 742}, .top = {}};
+    EXPECT_EQ(underABar.room(), 741);
 }
 
 TEST(PanelPlacementTest, StaysOnTheScreenAtEveryEdge) {

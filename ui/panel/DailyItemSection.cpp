@@ -34,4 +34,12 @@ void DailyItemSection::present(const DailyItemContent& content) {
     caption->setText(content.caption);
 }
 
+int DailyItemSection::pictureHeight() const {
+    return picture->minimumHeight();
+}
+
+void DailyItemSection::setPictureHeight(int height) {
+    picture->setFixedHeight(height);
+}
+
 } // namespace tambrelle

@@ -19,6 +19,10 @@ public:
 
     void present(const DailyItemContent& content);
 
+    /// In logical pixels.
+    [[nodiscard]] int pictureHeight() const;
+    void setPictureHeight(int height);
+
 private:
     const ResourceBundle& resources;
     PictureView* picture;

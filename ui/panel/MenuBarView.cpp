@@ -23,6 +23,8 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tambrelle {
 
 namespace {
@@ -122,8 +124,22 @@ QSize MenuBarView::sizeHint() const {
     return {width, layout()->heightForWidth(width)};
 }
 
+void MenuBarView::setRoom(int height) {
+    if (height == room)
+        return;
+    room = height;
+    fitHeight();
+}
+
 void MenuBarView::fitHeight() {
     layOut(*this);
+    const int before = dailyItem->pictureHeight();
+    const int height = std::clamp(before + room - sizeHint().height(), PanelMetrics::leastPictureHeight,
+                                  PanelMetrics::pictureHeight);
+    if (height != before && !dailyItem->isHidden()) {
+        dailyItem->setPictureHeight(height);
+        layOut(*this);
+    }
     const QSize wanted = sizeHint();
     if (wanted == size())
         return;

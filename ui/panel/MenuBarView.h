@@ -31,7 +31,8 @@ struct PanelServices {
     Later later = eventLoopLater();
 };
 
-/// The panel: the viewed day from top to bottom. It has its whole size from its content and follows it.
+/// The panel: the viewed day from top to bottom. It has its whole size from its content and follows it; where
+/// the room is less, the picture gives way, down to its least height.
 class MenuBarView final : public QWidget {
     Q_OBJECT
 
@@ -44,6 +45,9 @@ public:
 
     /// Shows this content; what equals the content on show is not touched.
     void present(const PanelSnapshot& snapshot);
+
+    /// How tall the panel may be, in logical pixels; without limit until it is told.
+    void setRoom(int height);
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -68,6 +72,7 @@ private:
     Refresher refresher;
     CopyFeedback feedback;
     std::optional<PanelSnapshot> shown;
+    int room = QWIDGETSIZE_MAX;
 
     NavigationBar* navigation;
     HeaderSection* header;

@@ -14,6 +14,8 @@ inline constexpr int betweenClocks = 20;
 inline constexpr int clockDividerHeight = 40;
 
 inline constexpr int pictureHeight = 260;
+/// What is left of it on a screen too low for the whole panel.
+inline constexpr int leastPictureHeight = 150;
 inline constexpr int pictureCornerRadius = 8;
 inline constexpr int pictureOutlineWidth = 1;
 

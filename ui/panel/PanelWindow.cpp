@@ -82,7 +82,10 @@ void PanelWindow::fit() {
     disconnect(availability);
     availability =
         connect(there, &QScreen::availableGeometryChanged, this, &PanelWindow::fit, Qt::QueuedConnection);
-    const PanelPlacement placement{.click = lastClick, .available = there->availableGeometry()};
+    PanelPlacement placement{.click = lastClick, .available = there->availableGeometry(), .top = {}};
+    if (isVisible() && placement.available.contains(pos()))
+        placement.top = y();
+    view->setRoom(placement.room());
     const QRect place = placement.place(view->size());
     // A compositor that tiles lets a window of one size float.
     if (kind == PopoverKind::standing)

@@ -7,8 +7,8 @@ namespace tambrelle {
 DockedIconPresentation::DockedIconPresentation(const TrayManager& tray, QObject* parent)
     : Presentation(parent), dock(tray, icon) {
     connect(&icon, &DayIconWidget::clicked, this, &Presentation::activated);
-    connect(&dock, &TrayDock::settled, this, [this, &tray](std::optional<int> width) {
-        if (!width)
+    connect(&dock, &TrayDock::settled, this, [this, &tray](std::optional<QSize> granted) {
+        if (!granted)
             emit refused();
         else if (const auto bar = tray.barAround(static_cast<std::uint32_t>(icon.winId())))
             emit settledIn(*bar);

@@ -13,20 +13,39 @@ DockedLinePresentation::DockedLinePresentation(const TrayManager& tray, QObject*
     label.setAttribute(Qt::WA_TranslucentBackground);
     label.setInk(tray.foreground().value_or(LineStyle::lightInk));
     connect(&label, &LineLabel::clicked, this, &Presentation::activated);
-    connect(&dock, &TrayDock::settled, this, [this](std::optional<int> width) {
-        if (!width || *width < needed)
-            emit refused();
-        else
-            adoptInk();
-    });
+    connect(&dock, &TrayDock::settled, this, &DockedLinePresentation::judge);
 }
 
 void DockedLinePresentation::present(const StatusItemContent& content) {
-    const int before = needed;
-    needed = LineStyle::sizeOf(content.line).width();
+    const int before = needed.width();
+    needed = LineStyle::sizeOf(content.line);
     label.setLine(content.line);
-    if (needed != before)
+    if (needed.width() != before)
         dock.settle();
+}
+
+void DockedLinePresentation::judge(std::optional<QSize> granted) {
+    if (!granted || (granted->width() < needed.width() && !fitted)) {
+        emit refused();
+    } else if (granted->width() < needed.width()) {
+        // The row has become lower.
+        fitted = false;
+        setHeight(needed.height());
+    } else if (granted->width() > needed.width() && granted->height() > needed.height() && !fitted) {
+        // This bar enlarges what is lower than its row, with its proportions. What is as tall has its own
+        // width.
+        fitted = true;
+        setHeight(granted->height());
+    } else {
+        adoptInk();
+    }
+}
+
+void DockedLinePresentation::setHeight(int height) {
+    const int air = height - needed.height();
+    label.setContentsMargins(0, air / 2, 0, air - air / 2);
+    label.setLine(label.text());
+    dock.settle();
 }
 
 void DockedLinePresentation::adoptInk() {

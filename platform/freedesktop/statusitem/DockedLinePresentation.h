@@ -17,12 +17,15 @@ public:
     void present(const StatusItemContent& content) override;
 
 private:
+    void judge(std::optional<QSize> granted);
+    void setHeight(int height);
     void adoptInk();
 
     const TrayManager& tray;
     LineLabel label;
     TrayDock dock;
-    int needed = 0; ///< Width of the line, logical pixels; the label's own is whatever the bar makes it.
+    QSize needed;        ///< By the line, logical pixels; the label's own size is whatever the bar makes it.
+    bool fitted = false; ///< The label was made as tall as the bar's row.
 };
 
 } // namespace tambrelle

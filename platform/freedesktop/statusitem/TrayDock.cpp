@@ -44,8 +44,8 @@ void TrayDock::dock() {
 }
 
 void TrayDock::look() {
-    const auto width = tray.grantedWidth(static_cast<std::uint32_t>(window.winId()));
-    emit settled(width ? std::optional<int>(qRound(*width / window.devicePixelRatioF())) : std::nullopt);
+    const auto pixels = tray.grantedSize(static_cast<std::uint32_t>(window.winId()));
+    emit settled(pixels ? std::optional<QSize>(*pixels / window.devicePixelRatioF()) : std::nullopt);
 }
 
 } // namespace tambrelle

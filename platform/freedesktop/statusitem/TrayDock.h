@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QSize>
 #include <QTimer>
 
 #include <optional>
@@ -23,9 +24,9 @@ public:
     void settle();
 
 signals:
-    /// The bar has laid out its items: the window's width there in logical pixels; absent when it was not
+    /// The bar has laid out its items: the window's size there in logical pixels; absent when it was not
     /// taken.
-    void settled(std::optional<int> width);
+    void settled(std::optional<QSize> granted);
 
 private:
     void dock();

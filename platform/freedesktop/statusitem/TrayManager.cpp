@@ -126,14 +126,14 @@ std::optional<QColor> TrayManager::groundUnder(std::uint32_t window) const {
     return QColor(bgr[2], bgr[1], bgr[0]);
 }
 
-std::optional<int> TrayManager::grantedWidth(std::uint32_t window) const {
+std::optional<QSize> TrayManager::grantedSize(std::uint32_t window) const {
     const Reply<xcb_query_tree_reply_t> tree(
         xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
     if (!tree || tree->parent == root)
         return std::nullopt;
     const Reply<xcb_get_geometry_reply_t> geometry(
         xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
-    return geometry ? std::optional<int>(geometry->width) : std::nullopt;
+    return geometry ? std::optional<QSize>({geometry->width, geometry->height}) : std::nullopt;
 }
 
 std::optional<QRect> TrayManager::barAround(std::uint32_t window) const {

@@ -31,9 +31,9 @@ public:
     /// Tells the tray that the docked `window` has been shown.
     void announceShown(std::uint32_t window) const;
 
-    /// The width that the bar has given to `window`, in device pixels; absent while the window is not in a
+    /// The size that the bar has given to `window`, in device pixels; absent while the window is not in a
     /// bar.
-    [[nodiscard]] std::optional<int> grantedWidth(std::uint32_t window) const;
+    [[nodiscard]] std::optional<QSize> grantedSize(std::uint32_t window) const;
 
     /// The whole bar that holds the docked `window`, in device pixels of the screen; absent when it is in
     /// none.
