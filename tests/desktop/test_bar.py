@@ -7,6 +7,7 @@ NOON = "2025-11-15 12:00:00"
 LINE = "🌫️ 23 Brumaire · Tridi · 5:00"
 TWO_TICKS = 2 * 0.864
 BACK_WITHIN = 2.0
+MOST_AIR = 16  # pixels, left and right together
 
 
 class Item(DesktopTest):
@@ -49,6 +50,30 @@ class Item(DesktopTest):
         self.desktop.host.start_bar(self.desktop)
         self.desktop.host.wait_for_bar(self.desktop)
         program.wait_for_title(LINE, limit=BACK_WITHIN)
+
+
+class Docked(DesktopTest):
+    """For hosts whose tray holds the line itself."""
+
+    def test_is_as_wide_as_its_text(self):
+        # Some bars enlarge a window that is lower than their row, with its proportions.
+        for stored, line in (("dateAndTime", LINE), ("decimalTime", "🌫️ 5:00")):
+            with self.subTest(stored=stored):
+                self.desktop.clock.set(NOON)
+                program = self.start_program(preferences={"menuBarFormat": stored})
+                program.wait_for_text(line)
+                until("no more than padding is beside the text", lambda: 0 < self.air(program) <= MOST_AIR)
+                program.stop()
+
+    def air(self, program):
+        """The columns of the line's window without ink, left and right of the text; 0 while it is not drawn."""
+        for window in self.desktop.docked_windows(program):
+            picture = self.desktop.picture().cropped(window.x, window.y, window.width, window.height)
+            ground = picture[0, window.height // 2]
+            inked = [x for x in range(window.width)
+                     if any(picture[x, y] != ground for y in range(3, window.height - 3))]
+            return window.width - (inked[-1] - inked[0]) if inked else 0
+        return 0
 
 
 class Return(DesktopTest):

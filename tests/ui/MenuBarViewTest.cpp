@@ -3,6 +3,7 @@
 #include "ui/Palette.h"
 #include "ui/panel/Divider.h"
 #include "ui/panel/FooterSection.h"
+#include "ui/panel/PanelMetrics.h"
 #include "ui/panel/PictureView.h"
 
 #include <QAccessible>

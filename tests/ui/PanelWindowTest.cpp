@@ -119,8 +119,7 @@ TEST_F(PanelWindowTest, ScrollsWhereTheScreenIsTooLow) {
     PanelSnapshot tall =
         panelSnapshot(state->manager, state->sound, {state->platform.clock.now(), QLocale()});
     toggle({400, 5});
-    for (int i = 0; i < 2; ++i)
-        tall.onThisDay.events.push_back(tall.onThisDay.events.front());
+    tall.dailyItem->caption = QStringLiteral("A caption of very many words. ").repeated(30);
     view->present(tall);
     ASSERT_GT(view->height(), screen().height());
     EXPECT_EQ(window->height(), screen().height());
@@ -141,6 +140,23 @@ TEST_F(PanelWindowTest, ScrollsWhereTheScreenIsTooLow) {
     EXPECT_EQ(quit->accessibleName(), "Quit");
     EXPECT_TRUE(window->rect().contains(QRect(quit->mapTo(window.get(), QPoint(0, 0)), quit->size())))
         << "a control that has the focus is in view";
+}
+
+TEST_F(PanelWindowTest, KeepsItsTopAsTheDaysPassUnderABarAtTheBottom) {
+    make(test::anItemAndNoEvent);
+    toggle(screen().bottomRight());
+    const int top = window->y();
+    for (const CivilComponents& day : {test::aComplementaryDay, test::anItemAndNoEvent}) {
+        const int height = window->height();
+        state->platform.setTime(test::local(day));
+        state->platform.timer.fire();
+        test::runQueued();
+        EXPECT_NE(window->height(), height);
+        EXPECT_EQ(window->y(), top);
+    }
+    toggle(screen().bottomRight());
+    toggle(screen().bottomRight());
+    EXPECT_EQ(window->y(), top) << "by the click again when it opens again";
 }
 
 TEST_F(PanelWindowTest, FollowsItsContentsHeight) {

@@ -11,6 +11,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTest>
 #include <QTimeEdit>
 
@@ -165,6 +166,28 @@ TEST_F(SettingsViewTest, TimesAreTypedKeyByKey) {
     test::runQueued();
     EXPECT_EQ(state.notifications.hour(), 9);
     EXPECT_EQ(state.notifications.minute(), 0);
+}
+
+TEST_F(SettingsViewTest, AClickChoosesTheHourOrTheMinuteAndTypingReplacesIt) {
+    open();
+    toggle("Notify me each morning")->click();
+    auto* text = time()->findChild<QLineEdit*>();
+    ASSERT_NE(text, nullptr);
+    const auto typeAt = [text](int character, const char* digits) {
+        text->setCursorPosition(character);
+        const QPoint there = text->inputMethodQuery(Qt::ImCursorRectangle).toRectF().center().toPoint();
+        QTest::mouseClick(text, Qt::LeftButton, {}, there);
+        QTest::keyClicks(text->parentWidget(), digits);
+    };
+    typeAt(1, "11");
+    EXPECT_EQ(state.notifications.hour(), 11);
+    typeAt(4, "45");
+    EXPECT_EQ(state.notifications.minute(), 45);
+    EXPECT_EQ(state.notifications.hour(), 11);
+    text->selectAll();
+    QTest::keyClicks(time(), "0920");
+    EXPECT_EQ(state.notifications.hour(), 9);
+    EXPECT_EQ(state.notifications.minute(), 20);
 }
 
 TEST_F(SettingsViewTest, ADamagedTimeShowsThePresentOneAndStaysAsItIs) {

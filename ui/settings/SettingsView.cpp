@@ -12,12 +12,12 @@
 #include "ui/settings/FormMetrics.h"
 #include "ui/settings/FormSection.h"
 #include "ui/settings/ReminderTime.h"
+#include "ui/settings/TimePicker.h"
 #include "ui/settings/ToggleRow.h"
 
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QSignalBlocker>
-#include <QTimeEdit>
 #include <QVBoxLayout>
 
 namespace tambrelle {
@@ -77,7 +77,7 @@ SettingsView::SettingsView(const SettingsServices& services, QWidget* parent)
       theme(picker<AppTheme>()),
       format(picker<MenuBarFormat>()),
       reminds(new ToggleRow(QStringLiteral("Notify me each morning"))),
-      reminder(new QTimeEdit),
+      reminder(new TimePicker),
       chimes(new ToggleRow(QStringLiteral("Hourly chimes (La Marseillaise)"))) {
     setWindowTitle(QStringLiteral("Tambrelle"));
     reminder->setDisplayFormat(timePattern(QLocale()));
