@@ -46,8 +46,9 @@ int main(int argc, char** argv) {
         std::fputs("usage: tambrelle-player VOLUME FILE\n", stderr);
         return usageError;
     }
-    takeTerminationAsARequest();
+    // In this order: the deadline and what is left to a terminated process share one timer.
     endProcessAfter(patience);
+    takeTerminationAsARequest();
     try {
         const Sound sound = readSoundFile(argv[2]);
         endProcessAfter(lengthOf(sound) + patience);

@@ -5,6 +5,7 @@
 #include <array>
 #include <csignal>
 #include <cstdint>
+#include <cstdlib>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
@@ -17,7 +18,13 @@ constexpr std::array taken{SIGTERM, SIGINT, SIGHUP};
 /// What the handler writes to; a signal may come at any instruction, so that it does no more than that.
 volatile std::sig_atomic_t counter = -1;
 
+/// The process that the signals are to end. A child has its handlers and its counter until it becomes a
+/// program of its own.
+volatile std::sig_atomic_t owner = 0;
+
 void note(int /*signal*/) {
+    if (::getpid() != owner)
+        ::_exit(EXIT_SUCCESS);
     constexpr std::uint64_t one = 1;
     [[maybe_unused]] const auto written = ::write(counter, &one, sizeof one);
     ::alarm(1);
@@ -40,6 +47,7 @@ TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) {
     if (descriptor < 0)
         return; // out of descriptors: the signals end the program as they always do
     counter = descriptor;
+    owner = ::getpid();
     notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, [this] {
         notifier->setEnabled(false);

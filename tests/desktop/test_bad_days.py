@@ -34,6 +34,17 @@ class NoDisplay(DesktopTest):
         self.says_so_and_ends({"DISPLAY": ":4711"})
         self.says_so_and_ends({"WAYLAND_DISPLAY": "wayland-4711"})
 
+    def test_one_in_memory_is_enough(self):
+        program = self.start_program(environment={"QT_QPA_PLATFORM": "offscreen"}, without=DISPLAYS)
+        until("it has begun", lambda: self.has_begun(program))
+        program.must_run()
+
+    def has_begun(self, program):
+        """What the application writes once it has its item."""
+        program.must_run()
+        file = self.desktop.config / program.PREFERENCES
+        return file.exists() and "notificationsConfigured=true" in file.read_text(encoding="utf-8")
+
 
 class NoSessionBus(DesktopTest):
     def label_picture(self, program):

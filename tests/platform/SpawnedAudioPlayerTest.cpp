@@ -76,6 +76,24 @@ TEST_F(SpawnedAudioPlayerTest, TellsThatThePlayerDied) {
     EXPECT_TRUE(test::waitUntil([&] { return errors.size() == 1; }));
 }
 
+TEST_F(SpawnedAudioPlayerTest, TellsOfEveryStatusButSuccess) {
+    for (const char* const end : {"exit 2", "exit 127"}) {
+        errors.clear();
+        SpawnedAudioPlayer player(script(end));
+        player.play(QStringLiteral("a.mp3"), 0.6, remember());
+        EXPECT_TRUE(test::waitUntil([&] { return player.children().isEmpty(); }));
+        EXPECT_EQ(errors.size(), 1U) << end;
+    }
+}
+
+TEST_F(SpawnedAudioPlayerTest, TellsOnlyOfTheLastSoundThatItFailed) {
+    SpawnedAudioPlayer player(folder.filePath(QStringLiteral("nowhere")));
+    player.play(QStringLiteral("a.mp3"), 0.6, remember());
+    player.play(QStringLiteral("b.mp3"), 0.6, remember());
+    EXPECT_TRUE(test::waitUntil([&] { return player.children().isEmpty(); })) << "a process is left over";
+    EXPECT_EQ(errors.size(), 1U);
+}
+
 TEST_F(SpawnedAudioPlayerTest, SaysNothingWhenTheSoundHasPlayed) {
     SpawnedAudioPlayer player(script("echo chatter >&2; : >done"));
     player.play(QStringLiteral("a.mp3"), 0.6, remember());

@@ -15,17 +15,16 @@ namespace tambrelle {
 
 namespace {
 
-constexpr int badFile = 1;
 constexpr std::chrono::milliseconds longestGoodbye{500};
 
 /// Why the player ended before its sound did; empty when it did not.
 QString reasonOf(QProcess& player, int status, QProcess::ExitStatus ending) {
     if (ending == QProcess::CrashExit)
         return QStringLiteral("the player died of it");
-    if (status != badFile)
+    if (status == EXIT_SUCCESS)
         return {};
     const QString text = QString::fromLocal8Bit(player.readAllStandardError()).simplified();
-    return text.isEmpty() ? QStringLiteral("the player gave no reason") : text;
+    return text.isEmpty() ? QStringLiteral("the player ended with status %1").arg(status) : text;
 }
 
 } // namespace
@@ -61,20 +60,22 @@ void SpawnedAudioPlayer::play(const QString& file, double volume, Failure onFail
     });
     player->setStandardInputFile(QProcess::nullDevice());
     player->setStandardOutputFile(QProcess::nullDevice());
+    // Of a sound that has been replaced only the end is noted: the failure has lost its meaning.
+    const auto end = [this, player, onFailure](const QString& reason) {
+        player->deleteLater();
+        if (sounding == player && !reason.isEmpty())
+            onFailure(reason);
+    };
     // Queued: a program that can't be started may say so from within start().
     connect(
         player, &QProcess::errorOccurred, this,
-        [player, onFailure](QProcess::ProcessError error) {
-            if (error != QProcess::FailedToStart)
-                return;
-            player->deleteLater();
-            onFailure(player->errorString());
+        [player, end](QProcess::ProcessError error) {
+            if (error == QProcess::FailedToStart)
+                end(player->errorString());
         },
         Qt::QueuedConnection);
-    connect(player, &QProcess::finished, this, [player, onFailure](int status, QProcess::ExitStatus ending) {
-        player->deleteLater();
-        if (const QString reason = reasonOf(*player, status, ending); !reason.isEmpty())
-            onFailure(reason);
+    connect(player, &QProcess::finished, this, [player, end](int status, QProcess::ExitStatus ending) {
+        end(reasonOf(*player, status, ending));
     });
     player->start(program, {QString::number(volume), file});
 }
@@ -82,9 +83,6 @@ void SpawnedAudioPlayer::play(const QString& file, double volume, Failure onFail
 void SpawnedAudioPlayer::silence() {
     if (!sounding)
         return;
-    // Its failure has lost its meaning, but its end has to be waited for, or a zombie is left.
-    sounding->disconnect(this);
-    connect(sounding, &QProcess::finished, sounding, &QObject::deleteLater);
     // Asked rather than killed: sound servers take the sudden death of a client badly.
     sounding->terminate();
     sounding.clear();

@@ -13,8 +13,8 @@ namespace tambrelle {
 /// sound server can hold it up.
 class SpawnedAudioPlayer final : public QObject, public AudioPlayer {
 public:
-    /// `program` is called with the volume and the file; it ends with status 1 and a line on standard error
-    /// when the file can't be opened or decoded.
+    /// `program` is called with the volume and the file; it ends with another status than 0, and a line on
+    /// standard error, when the file can't be opened or decoded.
     explicit SpawnedAudioPlayer(const QString& program);
     /// Silences what still plays.
     ~SpawnedAudioPlayer() override;

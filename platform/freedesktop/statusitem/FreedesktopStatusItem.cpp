@@ -6,6 +6,8 @@
 #include "platform/freedesktop/statusitem/FloatingLabelPresentation.h"
 #include "platform/freedesktop/statusitem/NotifierPresentation.h"
 
+#include <QPointer>
+
 #include <chrono>
 
 namespace tambrelle {
@@ -124,7 +126,10 @@ void FreedesktopStatusItem::add(std::unique_ptr<Presentation> presentation, std:
     connect(added, &Presentation::preferencesRequested, this, &StatusItem::preferencesRequested);
     connect(added, &Presentation::quitRequested, this, &StatusItem::quitRequested);
     // Queued: the new choice destroys the one that is just saying so.
-    const auto chooseAnother = [this, onRefusal = std::move(onRefusal)] {
+    const auto chooseAnother = [this, refusing = QPointer(added), onRefusal = std::move(onRefusal)] {
+        // Meanwhile the bar has changed, and the refusal says nothing about what has been chosen since.
+        if (!refusing)
+            return;
         onRefusal();
         choose();
     };

@@ -28,7 +28,7 @@ constexpr std::array iconSides{16, 22, 24, 32, 44, 48};
 constexpr std::chrono::milliseconds watcherPatience{5000};
 
 constexpr std::chrono::milliseconds untilRegisteredAgain{1000};
-constexpr int mostForgotten = 5;
+constexpr int mostDrops = 5;
 
 /// waybar tells of the second press of a double click twice over, at once.
 constexpr qint64 sameClick = 20;
@@ -84,6 +84,7 @@ NotifierPresentation::NotifierPresentation(const QDBusConnection& bus, const Not
       serviceName(freshServiceName()),
       item(new NotifierObject(appearance.style, this)),
       menu(new MenuObject(this)) {
+    age.start();
     connect(item, &NotifierObject::activated, this, &NotifierPresentation::noteActivation);
     connect(item, &NotifierObject::changed, this, &NotifierPresentation::sendSignal);
     connect(menu, &MenuObject::panelRequested, this, [this] { emit activated(QCursor::pos()); });
@@ -141,7 +142,7 @@ void NotifierPresentation::noteUnregistered(const QString& dropped) {
     // A watcher under load may drop an item that was slow to answer it, and never ask again.
     if (!dropped.startsWith(serviceName))
         return;
-    if (++forgotten > mostForgotten)
+    if (drops.add(std::chrono::milliseconds(age.elapsed())) > mostDrops)
         emit refused();
     else
         QTimer::singleShot(untilRegisteredAgain, this, &NotifierPresentation::registerWithWatcher);

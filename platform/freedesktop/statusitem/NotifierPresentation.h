@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/freedesktop/statusitem/DropCount.h"
 #include "platform/freedesktop/statusitem/NotifierObject.h"
 #include "platform/freedesktop/statusitem/Presentation.h"
 
@@ -47,8 +48,9 @@ private:
     NotifierObject* item;
     MenuObject* menu;
     bool announced = false;
-    int forgotten = 0; ///< How often the watcher has dropped the item.
+    DropCount drops;
     std::int64_t shownDay = 0;
+    QElapsedTimer age;
     QElapsedTimer sinceActivated;
 };
 

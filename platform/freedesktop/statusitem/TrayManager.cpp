@@ -34,7 +34,8 @@ constexpr std::uint32_t requestDock = 0;
 
 TrayManager::TrayManager(QObject* parent) : QObject(parent) {
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 == nullptr)
+    // The screen in memory offers the interface of X11 as well, with nothing behind it.
+    if (x11 == nullptr || x11->connection() == nullptr)
         return;
     connection = x11->connection();
     // The first screen is the only one that desktops of today have.
@@ -120,7 +121,8 @@ std::optional<QColor> TrayManager::groundUnder(std::uint32_t window) const {
     const auto cookie = xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, root, place->dst_x, place->dst_y,
                                       1, 1, allPlanes);
     const Reply<xcb_get_image_reply_t> image(xcb_get_image_reply(connection, cookie, nullptr));
-    if (!image || xcb_get_image_data_length(image.get()) < 4)
+    // Screens of these depths have a byte for each colour; what others show has to be looked up.
+    if (!image || (image->depth != 24 && image->depth != 32) || xcb_get_image_data_length(image.get()) < 4)
         return std::nullopt;
     const std::uint8_t* bgr = xcb_get_image_data(image.get());
     return QColor(bgr[2], bgr[1], bgr[0]);
