@@ -21,6 +21,7 @@ constexpr int unlimitedWidth = QWIDGETSIZE_MAX;
 
 /// The smallest part of its size to which type shrinks before it is elided.
 constexpr double smallestShrinkage = 0.6;
+constexpr double shrinkageStep = 0.02;
 
 /// A paragraph's last line is never one word alone.
 QString withoutWidow(QString text) {
@@ -95,7 +96,8 @@ QSize TextLabel::minimumSizeHint() const {
     if (fit.overflow == TextFit::Overflow::whole)
         return whole;
     if (fit.overflow == TextFit::Overflow::shrink)
-        return {static_cast<int>(std::ceil(whole.width() * smallestShrinkage)), whole.height()};
+        return {static_cast<int>(std::ceil(naturalWidth(shownText, shrunkFont(smallestShrinkage)))),
+                whole.height()};
     if (fit.lines == 1)
         return {static_cast<int>(std::ceil(naturalWidth(QStringLiteral("…"), plainFont))), whole.height()};
     qreal widest = 0;
@@ -156,17 +158,28 @@ TextLabel::Setting TextLabel::wrapped(int width) const {
     return setting;
 }
 
+QFont TextLabel::shrunkFont(double part) const {
+    QFont font = plainFont;
+    font.setPixelSize(std::max(1, static_cast<int>(plainFont.pixelSize() * part)));
+    font.setLetterSpacing(QFont::AbsoluteSpacing, plainFont.letterSpacing() * part);
+    return font;
+}
+
 TextLabel::Setting TextLabel::shrunk(int width) const {
     Setting setting = natural;
     setting.width = width;
-    const double ratio = std::max(smallestShrinkage, width / natural.lines.front().width);
+    Line& line = setting.lines.front();
     // Tracking goes down with the size, so the width does in proportion, but for the rounding of each letter.
-    for (double part = ratio; part >= smallestShrinkage / 2; part -= 0.02) {
-        setting.font.setPixelSize(std::max(1, static_cast<int>(plainFont.pixelSize() * part)));
-        setting.font.setLetterSpacing(QFont::AbsoluteSpacing, plainFont.letterSpacing() * part);
-        setting.lines.front().width = naturalWidth(shownText, setting.font);
-        if (setting.lines.front().width <= width)
+    for (double part = width / line.width;; part -= shrinkageStep) {
+        const bool smallest = part <= smallestShrinkage;
+        setting.font = shrunkFont(smallest ? smallestShrinkage : part);
+        line.width = naturalWidth(shownText, setting.font);
+        if (smallest || line.width <= width)
             break;
+    }
+    if (line.width > width) {
+        line.text = QFontMetricsF(setting.font).elidedText(shownText, Qt::ElideRight, width);
+        line.width = naturalWidth(line.text, setting.font);
     }
     return setting;
 }

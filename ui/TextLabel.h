@@ -14,7 +14,7 @@ struct TextFit {
     enum class Overflow : std::uint8_t {
         whole, ///< it is never wider: the place has to be as wide as the text
         wrap,
-        shrink,
+        shrink, ///< in smaller type, and elided where that would become too small
     };
 
     Overflow overflow = Overflow::whole;
@@ -73,6 +73,7 @@ private:
     [[nodiscard]] const Setting& setIn(int width) const;
     [[nodiscard]] Setting wrapped(int width) const;
     [[nodiscard]] Setting shrunk(int width) const;
+    [[nodiscard]] QFont shrunkFont(double part) const;
 
     TypeStyle typeStyle;
     Ink textInk;

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace tambrelle {
 namespace {
 
@@ -24,6 +26,21 @@ bool inkInColumn(const QImage& image, int x) {
             return true;
     }
     return false;
+}
+
+/// From the top of the highest letter to the bottom of the lowest one.
+int heightOfInk(const QImage& image) {
+    int first = image.height();
+    int last = -1;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) != image.pixelColor(0, 0)) {
+                first = std::min(first, y);
+                last = y;
+            }
+        }
+    }
+    return last - first + 1;
 }
 
 TEST(TextLabelTest, AWholeTextIsNeverNarrower) {
@@ -85,6 +102,23 @@ TEST(TextLabelTest, AShrunkTextStaysOnItsLineAndInItsPlace) {
             filled |= inkInColumn(image, x);
         EXPECT_TRUE(filled) << part;
     }
+}
+
+TEST(TextLabelTest, AShrunkTextIsElidedWhereItWouldBecomeTooSmall) {
+    TextLabel label(TypeScale::monthName, Ink::primary, TextFit::shrunk());
+    label.setText("SANSCULOTTIDES");
+    const QSize whole = label.sizeHint();
+    label.resize(label.minimumSizeHint().width(), whole.height());
+    const int smallest = heightOfInk(grabbed(label));
+    EXPECT_LT(smallest, heightOfInk([&] {
+                  TextLabel free(TypeScale::monthName, Ink::primary);
+                  free.setText("SANSCULOTTIDES");
+                  return grabbed(free);
+              }()));
+    label.resize(whole.width() / 3, whole.height());
+    const QImage elided = grabbed(label);
+    EXPECT_EQ(heightOfInk(elided), smallest) << "no smaller than that";
+    EXPECT_FALSE(inkInColumn(elided, elided.width() - 1)) << "the ellipsis ends within the place";
 }
 
 TEST(TextLabelTest, AnElidedSloganIsReadInFull) {

@@ -4,6 +4,7 @@
 #include "tests/ui/StateOnFakes.h"
 #include "ui/panel/MenuBarView.h"
 #include "ui/settings/SettingsView.h"
+#include "ui/settings/ToggleRow.h"
 
 #include <QApplication>
 #include <QDir>
@@ -92,6 +93,18 @@ void addSettings(Album& album, const QString& name) {
     album.add(name, view);
 }
 
+/// With the keyboard's focus on the first control.
+void addFocusedSettings(Album& album, const QString& name) {
+    StateOnFakes state(usualDay);
+    SettingsView view(
+        {state.manager, state.notifications, state.sound, state.platform.loginItem, state.platform.clock});
+    view.show();
+    view.activateWindow();
+    view.findChild<ToggleRow*>()->setFocus();
+    QApplication::processEvents();
+    album.add(name, view);
+}
+
 void addSettingsWithoutTime(Album& album) {
     StateOnFakes state(usualDay);
     state.notifications.setEnabled(false);
@@ -122,7 +135,9 @@ int main(int argc, char** argv) {
     addThreeEvents(album);
     addSettings(album, QStringLiteral("settings"));
     addSettingsWithoutTime(album);
+    addFocusedSettings(album, QStringLiteral("settings-focus"));
     QApplication::setPalette(darkDesktop());
     addSettings(album, QStringLiteral("settings-dark-desktop"));
+    addFocusedSettings(album, QStringLiteral("settings-focus-dark-desktop"));
     return EXIT_SUCCESS;
 }

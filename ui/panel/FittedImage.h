@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QPixmap>
+#include "ui/panel/PrintedPlate.h"
+
 #include <QWidget>
 
 namespace tambrelle {
@@ -17,10 +18,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QString file;
-    QPixmap fitted;
-    QSize fittedFor;
-    QColor fittedField;
+    PrintedPlate plate;
 };
 
 } // namespace tambrelle

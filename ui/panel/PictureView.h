@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QColor>
-#include <QImage>
-#include <QPixmap>
+#include "ui/panel/PrintedPlate.h"
+
 #include <QWidget>
 
 #include <optional>
@@ -23,26 +22,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    [[nodiscard]] const QPixmap& picture();
-
     TextLabel* emojiLabel;
-    QString shownFile;
-    QImage decoded; ///< until it is composed; the plate itself is larger than what is shown of it
-    QPixmap composed;
-    QColor composedField;
+    PrintedPlate plate;
 };
-
-/// How large a picture is made and on what it lies.
-struct PictureFrame {
-    QSize size; ///< in logical pixels
-    qreal devicePixelRatio = 1;
-    QColor field;
-};
-
-/// `plate` scaled to fit the frame and multiplied with its field.
-[[nodiscard]] QImage composedPicture(const QImage& plate, const PictureFrame& frame);
 
 } // namespace tambrelle

@@ -19,5 +19,13 @@ inline constexpr double hairlineOpacity = 0.14;
 /// How much of the text's colour lightens the boxes of a desktop whose window ground is its lightest.
 inline constexpr double boxTint = 0.06;
 inline constexpr QSize switchSize{36, 20};
+inline constexpr int switchKnobInset = 2;
+/// How strongly the text's colour tints a switch that is off.
+inline constexpr double switchOffOpacity = 0.25;
+/// Between a switch and the line around it that shows the focus.
+inline constexpr int focusDistance = 2;
+inline constexpr int focusLineWidth = 1;
+/// What a control that draws its own focus keeps free around itself.
+inline constexpr int focusOutset = focusDistance + focusLineWidth;
 
 } // namespace tambrelle::FormMetrics

@@ -2,6 +2,7 @@
 
 #include "ui/Spacing.h"
 #include "ui/settings/FormMetrics.h"
+#include "ui/settings/ToggleRow.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -35,11 +36,16 @@ FormSection::FormSection(const QString& title, QWidget* parent)
     column->addWidget(box);
 }
 
-void FormSection::addRow(QWidget* row) {
+void FormSection::addRow(ToggleRow* row) {
+    addPadded(row, FormMetrics::focusOutset);
+}
+
+void FormSection::addPadded(QWidget* row, int ownPadding) {
+    constexpr int x = FormMetrics::rowPaddingX;
+    constexpr int y = FormMetrics::rowPaddingY;
     auto* padded = new QWidget;
     auto* layout = new QHBoxLayout(padded);
-    layout->setContentsMargins(FormMetrics::rowPaddingX, FormMetrics::rowPaddingY, FormMetrics::rowPaddingX,
-                               FormMetrics::rowPaddingY);
+    layout->setContentsMargins(x - ownPadding, y - ownPadding, x - ownPadding, y - ownPadding);
     layout->addWidget(row);
     padded->setMinimumHeight(FormMetrics::rowHeight);
     rows->addWidget(padded);
@@ -56,7 +62,7 @@ QWidget* FormSection::addRow(const QString& label, QWidget* control) {
     layout->addWidget(words);
     layout->addStretch();
     layout->addWidget(control);
-    addRow(row);
+    addPadded(row, 0);
     return rowWidgets.back();
 }
 

@@ -14,9 +14,11 @@ namespace tambrelle {
 
 namespace {
 
-constexpr int knobInset = 2;
-constexpr double offOpacity = 0.25;
-constexpr double focusDistance = 2;
+/// The place of a row's content; the focus is drawn around it.
+QRect content(const QWidget& row) {
+    constexpr int outset = FormMetrics::focusOutset;
+    return row.rect().adjusted(outset, outset, -outset, -outset);
+}
 
 } // namespace
 
@@ -32,8 +34,10 @@ void ToggleRow::showState(bool on) {
 
 QSize ToggleRow::sizeHint() const {
     const QFontMetrics metrics(font());
-    return {metrics.horizontalAdvance(text()) + Spacing::standard + FormMetrics::switchSize.width(),
-            std::max(metrics.height(), FormMetrics::switchSize.height())};
+    const QSize content(metrics.horizontalAdvance(text()) + Spacing::standard +
+                            FormMetrics::switchSize.width(),
+                        std::max(metrics.height(), FormMetrics::switchSize.height()));
+    return content + 2 * QSize(FormMetrics::focusOutset, FormMetrics::focusOutset);
 }
 
 bool ToggleRow::hitButton(const QPoint& place) const {
@@ -41,34 +45,41 @@ bool ToggleRow::hitButton(const QPoint& place) const {
 }
 
 void ToggleRow::paintEvent(QPaintEvent*) {
+    const QRect place = content(*this);
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeading | Qt::TextDontClip, text());
-
-    const QSize size = FormMetrics::switchSize;
-    const QRectF track = QStyle::visualRect(layoutDirection(), rect(),
-                                            {{width() - size.width(), (height() - size.height()) / 2}, size});
-    const double radius = track.height() / 2;
+    painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeading | Qt::TextDontClip, text());
+    const QRect track = QStyle::alignedRect(layoutDirection(), Qt::AlignVCenter | Qt::AlignTrailing,
+                                            FormMetrics::switchSize, place);
     painter.setRenderHint(QPainter::Antialiasing);
+    drawSwitch(painter, track);
+    if (hasFocus())
+        drawFocus(painter, track);
+}
+
+void ToggleRow::drawSwitch(QPainter& painter, const QRectF& track) const {
+    const double radius = track.height() / 2;
     painter.setPen(Qt::NoPen);
     QColor ground = palette().color(isChecked() ? QPalette::Highlight : QPalette::WindowText);
     if (!isChecked())
-        ground.setAlphaF(offOpacity);
+        ground.setAlphaF(static_cast<float>(FormMetrics::switchOffOpacity));
     painter.setBrush(ground);
     painter.drawRoundedRect(track, radius, radius);
 
-    const double side = track.height() - 2 * knobInset;
+    constexpr double inset = FormMetrics::switchKnobInset;
+    const double side = track.height() - 2 * inset;
     const bool right = isChecked() == (layoutDirection() == Qt::LeftToRight);
-    const double left = right ? track.right() - knobInset - side : track.left() + knobInset;
-    painter.setBrush(Qt::white);
-    painter.drawEllipse(QRectF(left, track.top() + knobInset, side, side));
+    const double left = right ? track.right() - inset - side : track.left() + inset;
+    painter.setBrush(palette().color(QPalette::HighlightedText));
+    painter.drawEllipse(QRectF(left, track.top() + inset, side, side));
+}
 
-    if (hasFocus()) {
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
-        painter.drawRoundedRect(track.adjusted(-focusDistance, -focusDistance, focusDistance, focusDistance),
-                                radius + focusDistance, radius + focusDistance);
-    }
+void ToggleRow::drawFocus(QPainter& painter, const QRectF& track) const {
+    constexpr double distance = FormMetrics::focusDistance + FormMetrics::focusLineWidth / 2.0;
+    const QRectF ring = track.adjusted(-distance, -distance, distance, distance);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), FormMetrics::focusLineWidth));
+    painter.drawRoundedRect(ring, ring.height() / 2, ring.height() / 2);
 }
 
 } // namespace tambrelle

@@ -5,7 +5,7 @@
 namespace tambrelle {
 
 /// A row of a form that is one toggle: its label on the leading side, a switch on the trailing one. The whole
-/// row can be clicked.
+/// row can be clicked. Its content stands FormMetrics::focusOutset inside of it, to leave room for the focus.
 class ToggleRow final : public QCheckBox {
     Q_OBJECT
 
@@ -22,6 +22,10 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     [[nodiscard]] bool hitButton(const QPoint& place) const override;
+
+private:
+    void drawSwitch(QPainter& painter, const QRectF& track) const;
+    void drawFocus(QPainter& painter, const QRectF& track) const;
 };
 
 } // namespace tambrelle
