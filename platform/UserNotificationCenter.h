@@ -31,7 +31,7 @@ struct UserNotificationRequest {
 
 /// How a notification that arrives while the application is in front is shown.
 struct PresentationOptions {
-    bool banner = false;
+    bool banner = false; ///< whether it is shown at all; without it there is no sound either
     bool sound = false;
 
     bool operator==(const PresentationOptions&) const = default;
@@ -46,7 +46,8 @@ public:
 };
 
 /// Keeps the pending notifications of the application and delivers each when its minute comes: after sleep, a
-/// jump of the clock or a change of zone, within a minute of becoming due.
+/// jump of the clock or a change of zone, within a minute of becoming due. Of several that have become due
+/// meanwhile it delivers the last one: the others speak of days that are over.
 class UserNotificationCenter {
 public:
     virtual ~UserNotificationCenter() = default;

@@ -11,6 +11,7 @@ namespace tambrelle::fakes {
 class FakeWakeUp final : public WakeUp {
 public:
     void arm(Instant instant, std::function<void()> onDue) override {
+        ++arms;
         armed = instant;
         due = std::move(onDue);
     }
@@ -27,6 +28,7 @@ public:
     }
 
     std::optional<Instant> armed;
+    int arms = 0;
 
 private:
     std::function<void()> due;

@@ -99,12 +99,32 @@ TEST_F(ScheduledNotificationCenterTest, ShowsAMorningSleptThroughOnceAtWaking) {
     EXPECT_EQ(center.pending().size(), 1U);
 }
 
-TEST_F(ScheduledNotificationCenterTest, ShowsSeveralMorningsSleptThroughInTheirOrder) {
+TEST_F(ScheduledNotificationCenterTest, ShowsOnlyTheLastOfSeveralMorningsSleptThrough) {
+    clock.set(at(3, 7, 7));
+    Delegate delegate;
+    center.setDelegate(&delegate);
+    center.add(request("second", trigger(3, 8, 8)));
+    center.add(request("third", trigger(3, 9, 8)));
+    center.add(request("first", trigger(3, 7, 8)));
+    center.add(request("next", trigger(3, 10, 8)));
+    setClock(at(3, 9, 9));
+    EXPECT_EQ(service.identifiers(), Identifiers{"third"});
+    EXPECT_EQ(delegate.asked, Identifiers{"third"});
+    EXPECT_EQ(center.pending().size(), 1U);
+    EXPECT_EQ(wakeUp.armed, at(3, 10, 8));
+}
+
+TEST_F(ScheduledNotificationCenterTest, ArmsOnlyForAnEarlierInstant) {
     clock.set(at(3, 7, 7));
     center.add(request("second", trigger(3, 8, 8)));
+    center.add(request("third", trigger(3, 9, 8)));
+    EXPECT_EQ(wakeUp.arms, 1);
     center.add(request("first", trigger(3, 7, 8)));
-    setClock(at(3, 8, 9));
-    EXPECT_EQ(service.identifiers(), (Identifiers{"first", "second"}));
+    EXPECT_EQ(wakeUp.arms, 2);
+    center.add(request("first", trigger(3, 7, 9)));
+    EXPECT_EQ(wakeUp.armed, at(3, 7, 9));
+    center.add(request("first", trigger(3, 7, 99)));
+    EXPECT_EQ(wakeUp.armed, at(3, 8, 8));
 }
 
 TEST_F(ScheduledNotificationCenterTest, ShowsWhatIsDueBeforeItIsRemoved) {
@@ -211,7 +231,7 @@ TEST_F(ScheduledNotificationCenterTest, AsksTheDelegateHowToShow) {
 TEST_F(ScheduledNotificationCenterTest, ShowsNothingWhenTheDelegateWantsNothing) {
     clock.set(at(3, 7, 7));
     Delegate delegate;
-    delegate.options = {};
+    delegate.options = {.banner = false, .sound = true}; // the desktop has no sound without a banner
     center.setDelegate(&delegate);
     center.add(request("morning", trigger(3, 7, 8)));
     setClock(at(3, 7, 8));

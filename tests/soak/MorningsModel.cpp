@@ -1,6 +1,7 @@
 #include "tests/soak/MorningsModel.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace tambrelle::soak {
 
@@ -20,8 +21,8 @@ void MorningsModel::deliver(Instant now) {
     std::ranges::stable_sort(mornings, {}, &Morning::due);
     const auto later =
         std::ranges::find_if(mornings, [now](const Morning& morning) { return morning.due > now; });
-    std::for_each(mornings.begin(), later,
-                  [this](const Morning& morning) { shown.push_back(identifier(morning.day)); });
+    if (later != mornings.begin())
+        shown.push_back(identifier(std::prev(later)->day));
     mornings.erase(mornings.begin(), later);
     noteEarliest();
 }

@@ -18,8 +18,7 @@ public:
     std::int64_t hour = 8;
     std::int64_t minute = 0;
 
-    /// Takes what is due by now off the list, in the order of its times, and puts its identifiers into
-    /// `shown`.
+    /// Takes what is due by now off the list, and puts the identifier of the last of it into `shown`.
     void deliver(Instant now);
     /// As the manager does it: what is due first, then a new list.
     void reschedule(const WallClock& wall, Instant now);

@@ -5,7 +5,6 @@
 #include "platform/freedesktop/notifications/NotificationService.h"
 #include "platform/freedesktop/notifications/WakeUp.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -43,32 +42,40 @@ void ScheduledNotificationCenter::removeAllPending() {
 }
 
 void ScheduledNotificationCenter::add(const UserNotificationRequest& request) {
-    std::erase_if(requests, [&](const auto& other) { return other.identifier == request.identifier; });
-    if (!dueTime(request))
-        return;
-    requests.push_back(request);
-    armWakeUp();
+    const auto replaced =
+        std::erase_if(requests, [&](const auto& other) { return other.identifier == request.identifier; });
+    const auto time = dueTime(request);
+    if (time)
+        requests.push_back(request);
+    // What is armed for is the earliest of the others, unless it was for the one replaced.
+    if (replaced != 0)
+        armWakeUp();
+    else if (time && (!armed || *time < *armed))
+        armWakeUpAt(*time);
 }
 
 void ScheduledNotificationCenter::deliverDue() {
     const Instant now = clock.now();
-    std::vector<std::pair<Instant, UserNotificationRequest>> due;
+    std::optional<std::pair<Instant, UserNotificationRequest>> last;
     std::erase_if(requests, [&](const UserNotificationRequest& request) {
         const auto time = dueTime(request);
         if (!time || *time > now)
             return false;
-        due.emplace_back(*time, request);
+        // Each speaks of its day as today: of several that were slept through only the last one is true.
+        if (!last || *time >= last->first)
+            last.emplace(*time, request);
         return true;
     });
-    std::ranges::stable_sort(due, {}, &std::pair<Instant, UserNotificationRequest>::first);
+    if (!last)
+        return;
     // None of them is pending any more when the delegate is asked: it may schedule anew.
-    for (const auto& [time, request] : due) {
-        const PresentationOptions options = delegate != nullptr
-                                                ? delegate->willPresent(request)
-                                                : PresentationOptions{.banner = true, .sound = true};
-        if (options.banner || options.sound)
-            service.show(request, options);
-    }
+    const UserNotificationRequest& request = last->second;
+    const PresentationOptions options = delegate != nullptr
+                                            ? delegate->willPresent(request)
+                                            : PresentationOptions{.banner = true, .sound = true};
+    // A desktop's service knows no sound without a banner.
+    if (options.banner)
+        service.show(request, options);
 }
 
 void ScheduledNotificationCenter::armWakeUp() {
@@ -78,11 +85,17 @@ void ScheduledNotificationCenter::armWakeUp() {
         if (time && (!earliest || *time < *earliest))
             earliest = time;
     }
-    if (!earliest) {
-        wakeUp.disarm();
+    if (earliest) {
+        armWakeUpAt(*earliest);
         return;
     }
-    wakeUp.arm(*earliest, [this] {
+    armed.reset();
+    wakeUp.disarm();
+}
+
+void ScheduledNotificationCenter::armWakeUpAt(Instant instant) {
+    armed = instant;
+    wakeUp.arm(instant, [this] {
         deliverDue();
         armWakeUp();
     });

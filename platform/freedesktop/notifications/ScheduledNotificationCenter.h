@@ -1,6 +1,9 @@
 #pragma once
 
+#include "core/Instant.h"
 #include "platform/UserNotificationCenter.h"
+
+#include <optional>
 
 namespace tambrelle {
 
@@ -30,12 +33,14 @@ public:
 private:
     void deliverDue();
     void armWakeUp();
+    void armWakeUpAt(Instant instant);
 
     const Clock& clock;
     WakeUp& wakeUp;
     NotificationService& service;
     UserNotificationCenterDelegate* delegate = nullptr;
     std::vector<UserNotificationRequest> requests;
+    std::optional<Instant> armed; ///< when the earliest of them is due
 };
 
 } // namespace tambrelle
