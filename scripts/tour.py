@@ -43,6 +43,7 @@ class Tour:
                 traceback.print_exc()
         picture = self.folder / f"{self.count:02}-{name.replace(' ', '-')}.png"
         try:
+            self.wait_until_still()
             self.desktop.save_picture(picture)
         except Exception as error:
             told += f"; no picture: {error}"
@@ -54,6 +55,7 @@ class Tour:
 
     def label(self):
         self.program.wait_for_text(LINE)
+        until("the line has a window in the bar", self.window_in_bar)
 
     def panel(self):
         self.open_panel()
@@ -112,6 +114,17 @@ class Tour:
             raise AssertionError(f"the program ended with status {status}:\n{self.program.output()}")
 
     # Ways
+
+    def wait_until_still(self):
+        """Fades and bars have come to their end. The panel's seconds go on, every 864 ms."""
+        last = None
+
+        def still():
+            nonlocal last
+            before, last = last, self.desktop.picture().pixels
+            return before == last
+
+        until("the screen is still", still, every=0.3)
 
     def open_panel(self):
         """Opens the panel by a click on the line in the bar, unless it is open."""

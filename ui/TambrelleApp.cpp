@@ -1,5 +1,6 @@
 #include "ui/TambrelleApp.h"
 
+#include "ui/ApplicationIcon.h"
 #include "ui/panel/MenuBarView.h"
 #include "ui/panel/PanelWindow.h"
 #include "ui/settings/SettingsView.h"
@@ -53,6 +54,7 @@ void TambrelleApp::openSettings() {
                                      .sound = sound,
                                      .loginItem = platform.loginItem,
                                      .clock = platform.clock});
+        settings->setWindowIcon(applicationIcon());
         // Nothing of it stays in memory, and the next window reads the login item anew.
         settings->setAttribute(Qt::WA_DeleteOnClose);
     }

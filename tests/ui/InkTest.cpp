@@ -77,7 +77,7 @@ TEST(InkTest, IsTheSameInEveryColourGroup) {
 }
 
 TEST(InkTest, EveryTextCanBeRead) {
-    constexpr double readable = 3;
+    constexpr double readable = 4.5;
     for (const AppTheme theme : allCases<AppTheme>()) {
         const QPalette palette = panelPalette(theme);
         for (const auto& [ink, name] : textInks) {

@@ -69,6 +69,7 @@ TEST_F(TambrelleAppTest, OpensTheSettingsFromThePanelAndClosesThePanel) {
     press("Preferences");
     ASSERT_EQ(windows<SettingsView>().size(), 1);
     EXPECT_TRUE(windows<SettingsView>().constFirst()->isVisible());
+    EXPECT_FALSE(windows<SettingsView>().constFirst()->windowIcon().isNull());
     EXPECT_FALSE(windows<PanelWindow>().constFirst()->isVisible());
 }
 

@@ -243,7 +243,7 @@ class Xfce(Host):
       <property name="size" type="uint" value="26"/>
       <property name="icon-size" type="uint" value="0"/>
       <property name="plugin-ids" type="array">
-        <value type="int" value="1"/><value type="int" value="2"/><value type="int" value="3"/>
+        <value type="int" value="1"/><value type="int" value="2"/>
       </property>
     </property>
   </property>
@@ -253,7 +253,6 @@ class Xfce(Host):
       <property name="style" type="uint" value="0"/>
     </property>
     <property name="plugin-2" type="string" value="systray"/>
-    <property name="plugin-3" type="string" value="clock"/>
   </property>
 </channel>
 """)
