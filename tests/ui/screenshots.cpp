@@ -38,9 +38,8 @@ private:
 };
 
 void addShippedPictures(StateOnFakes& state) {
-    const QString folder = qEnvironmentVariable("TAMBRELLE_RESOURCES");
-    if (folder.isEmpty())
-        return;
+    const QString built = QCoreApplication::applicationDirPath() + QStringLiteral("/share/tambrelle");
+    const QString folder = qEnvironmentVariable("TAMBRELLE_RESOURCES", built);
     for (const QString& file : QDir(folder + QStringLiteral("/plates")).entryList({QStringLiteral("*.png")}))
         state.platform.resources.files.insert(QStringLiteral("plates/") + file,
                                               folder + QStringLiteral("/plates/") + file);
