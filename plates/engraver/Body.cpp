@@ -97,7 +97,9 @@ void Body::engrave(Plate& plate, const Style& style) {
             bounds.add({p.x + r + 5, p.y + r + 5});
         }
     }
-    const auto edge = [](double v, int limit) { return std::clamp(static_cast<int>(v), 0, limit); };
+    const auto edge = [](double v, int limit) {
+        return std::clamp(static_cast<int>(v), -Plate::bleed * coarse, limit + Plate::bleed * coarse);
+    };
     window_.x = edge(std::floor(bounds.left * coarse), Plate::width * coarse);
     window_.y = edge(std::floor(bounds.top * coarse), Plate::height * coarse);
     window_.width = edge(std::ceil(bounds.right * coarse), Plate::width * coarse) - window_.x;

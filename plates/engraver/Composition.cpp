@@ -12,9 +12,9 @@ constexpr int scale = Plate::scale;
 Plate::Window inkedWindow(const Plate& plate) {
     const Layer& wash = plate.washLayer();
     const Layer& ink = plate.inkLayer();
-    int x0 = wash.width(), y0 = wash.height(), x1 = -1, y1 = -1;
-    for (int y = 0; y < wash.height(); ++y)
-        for (int x = 0; x < wash.width(); ++x) {
+    int x0 = wash.right(), y0 = wash.bottom(), x1 = wash.left() - 1, y1 = wash.top() - 1;
+    for (int y = wash.top(); y < wash.bottom(); ++y)
+        for (int x = wash.left(); x < wash.right(); ++x) {
             const Pixel& w = wash(x, y);
             const float darkest = std::min({w.r, w.g, w.b}) + 1 - w.a;
             if (ink(x, y).a < 0.15F && darkest > 0.93F)
@@ -24,7 +24,7 @@ Plate::Window inkedWindow(const Plate& plate) {
             y0 = std::min(y0, y);
             y1 = std::max(y1, y);
         }
-    if (x1 < 0)
+    if (x1 < x0)
         return {};
     return {x0, y0, x1 - x0 + 1, y1 - y0 + 1};
 }
@@ -141,6 +141,18 @@ std::vector<Tap> taps(int targets, double step, double origin) {
 }
 
 } // namespace
+
+bool cutOff(const Plate& plate) {
+    const Layer& ink = plate.inkLayer();
+    const auto inked = [&ink](int x, int y) { return ink(x, y).a > 0.3F; };
+    for (int y = ink.top(); y < ink.bottom(); ++y)
+        if (inked(ink.left(), y) || inked(ink.right() - 1, y))
+            return true;
+    for (int x = ink.left(); x < ink.right(); ++x)
+        if (inked(x, ink.top()) || inked(x, ink.bottom() - 1))
+            return true;
+    return false;
+}
 
 Picture compose(const Plate& plate, const Composition& how) {
     Picture picture;

@@ -28,4 +28,8 @@ struct Composition {
 /// Lays ink over wash, lets the wash bleed a little, cuts the sheet to the subject and scales it down.
 Picture compose(const Plate& plate, const Composition& how = {});
 
+/// Whether something was drawn farther beyond the surface's edge than is kept, so that the picture would show
+/// it cut off.
+bool cutOff(const Plate& plate);
+
 } // namespace tambrelle::engraver

@@ -5,7 +5,7 @@
 
 namespace tambrelle::engraver {
 
-/// A transparent sheet of premultiplied colour, one of the two that make a plate (wash and ink).
+/// A place of a layer: premultiplied colour.
 struct Pixel {
     float r = 0;
     float g = 0;
@@ -43,6 +43,25 @@ struct Pixel {
     }
 };
 
-using Layer = Grid<Pixel>;
+/// A transparent sheet of colour, one of the two that make a plate (wash and ink).
+class Layer {
+public:
+    /// `width` x `height` pixels and `bleed` more on every side: coordinates run from -bleed.
+    Layer(int width, int height, int bleed) : bleed_(bleed), cells_(width + 2 * bleed, height + 2 * bleed) {}
+
+    int left() const { return -bleed_; }
+    int top() const { return -bleed_; }
+    /// One beyond the last.
+    int right() const { return cells_.width() - bleed_; }
+    int bottom() const { return cells_.height() - bleed_; }
+    Pixel& operator()(int x, int y) { return cells_(x + bleed_, y + bleed_); }
+    const Pixel& operator()(int x, int y) const { return cells_(x + bleed_, y + bleed_); }
+    bool holds(int x, int y) const { return cells_.holds(x + bleed_, y + bleed_); }
+    const std::vector<Pixel>& cells() const { return cells_.cells(); }
+
+private:
+    int bleed_;
+    Grid<Pixel> cells_;
+};
 
 } // namespace tambrelle::engraver

@@ -8,13 +8,14 @@ using maths::smooth;
 
 namespace {
 constexpr Colour shadowColour{0.30, 0.22, 0.14};
-}
+constexpr int border = Plate::bleed * Plate::scale;
+} // namespace
 
 Plate::Plate(std::string_view name)
     : random(name),
-      wash_(width * scale, height * scale),
-      ink_(width * scale, height * scale),
-      rasteriser_(width * scale, height * scale) {}
+      wash_(width * scale, height * scale, border),
+      ink_(width * scale, height * scale, border),
+      rasteriser_(width * scale + 2 * border, height * scale + 2 * border) {}
 
 double Plate::clipAt(int x, int y) const {
     if (clips_.empty())
@@ -28,13 +29,15 @@ template <class Paint>
 void Plate::fill(const Path& outline, const Paint& paint) {
     pixels_.resize(outline.size());
     for (std::size_t i = 0; i < outline.size(); ++i)
-        pixels_[i] = outline[i] * scale;
+        pixels_[i] = outline[i] * scale + Point{border, border};
     if (clips_.empty()) {
-        rasteriser_.fill(pixels_, paint);
+        rasteriser_.fill(pixels_,
+                         [&paint](int x, int y, float cover) { paint(x - border, y - border, cover); });
         return;
     }
     const Mask& m = clips_.back();
-    rasteriser_.fill(pixels_, [&m, &paint](int x, int y, float cover) {
+    rasteriser_.fill(pixels_, [&m, &paint](int column, int row, float cover) {
+        const int x = column - border, y = row - border;
         const int cx = x - m.window.x, cy = y - m.window.y;
         if (!m.cover.holds(cx, cy))
             return;
@@ -57,7 +60,7 @@ Plate::Clip::~Clip() {
 
 Plate::Window Plate::windowOf(const Bounds& b, double margin) {
     const auto edge = [](double v, int limit) {
-        return std::clamp(static_cast<int>(std::clamp(v, -1e6, 1e6)), 0, limit);
+        return std::clamp(static_cast<int>(std::clamp(v, -1e6, 1e6)), -border, limit + border);
     };
     const int x0 = edge(std::floor((b.left - margin) * scale), width * scale);
     const int y0 = edge(std::floor((b.top - margin) * scale), height * scale);
@@ -115,10 +118,10 @@ void Plate::triangle(const Point (&c)[3], const Colour (&colours)[3]) {
         return;
     const double left = std::min({c[0].x, c[1].x, c[2].x}), right = std::max({c[0].x, c[1].x, c[2].x});
     const double top = std::min({c[0].y, c[1].y, c[2].y}), bottom = std::max({c[0].y, c[1].y, c[2].y});
-    const int x0 = std::max(0, static_cast<int>(std::floor(std::max(left, 0.0))));
-    const int x1 = std::min(wash_.width() - 1, static_cast<int>(std::min(right, 1e6)));
-    const int y0 = std::max(0, static_cast<int>(std::floor(std::max(top, 0.0))));
-    const int y1 = std::min(wash_.height() - 1, static_cast<int>(std::min(bottom, 1e6)));
+    const int x0 = std::max(wash_.left(), static_cast<int>(std::floor(std::max(left, -1e6))));
+    const int x1 = std::min(wash_.right() - 1, static_cast<int>(std::floor(std::min(right, 1e6))));
+    const int y0 = std::max(wash_.top(), static_cast<int>(std::floor(std::max(top, -1e6))));
+    const int y1 = std::min(wash_.bottom() - 1, static_cast<int>(std::floor(std::min(bottom, 1e6))));
     for (int y = y0; y <= y1; ++y)
         for (int x = x0; x <= x1; ++x) {
             const Point p{x + 0.5, y + 0.5};

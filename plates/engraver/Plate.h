@@ -62,6 +62,8 @@ class Plate {
 public:
     static constexpr int width = 400;
     static constexpr int height = 372;
+    /// What reaches beyond the surface's edges is kept this far, in units.
+    static constexpr int bleed = 24;
     /// Pixels a unit.
     static constexpr int scale = 4;
 

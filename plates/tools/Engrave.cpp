@@ -1,5 +1,5 @@
 // tambrelle-engrave FOLDER [NAME...]: draws the named plates, or all, into FOLDER as NAME.png.
-// A name that no day bears is refused: a plate must not be misnamed.
+// A name that no day bears is refused: a plate must not be misnamed. So is a plate that is cut off.
 
 #include "content/DailyItems.h"
 #include "plates/engraver/Png.h"
@@ -56,7 +56,10 @@ int main(int argc, char** argv) {
             const std::string name(subject->imageName());
             if (!known.contains(name))
                 throw std::runtime_error("no day is called " + name);
-            writeFile(folder / (name + ".png"), encodePlate(compose(subject->draw())));
+            const Plate plate = subject->draw();
+            if (cutOff(plate))
+                throw std::runtime_error(name + " is drawn beyond the plate's edge");
+            writeFile(folder / (name + ".png"), encodePlate(compose(plate)));
         }
     } catch (const std::exception& error) {
         std::fprintf(stderr, "tambrelle-engrave: %s\n", error.what());

@@ -69,6 +69,25 @@ TEST(Plate, HatchesDarkMoreThanLightAndPaperNotAtAll) {
     EXPECT_LT(inked(1.0), 0.55);
 }
 
+TEST(Plate, KeepsWhatReachesALittleBeyondItsEdge) {
+    Plate plate("test");
+    const double reach = Plate::bleed - 4;
+    plate.ink({{-reach, -reach}, {20, -reach}, {20, 20}, {-reach, 20}});
+    EXPECT_EQ(inkAt(plate, {-reach + 1, -reach + 1}), 1);
+    EXPECT_FALSE(cutOff(plate));
+    plate.stroke({{200, 200}, {Plate::width + 2.0 * Plate::bleed, 200}}, {.width = 3, .fade = 0});
+    EXPECT_TRUE(cutOff(plate));
+}
+
+TEST(Composition, ShowsWholeWhatReachesBeyondTheSurface) {
+    const auto draw = [](double shift) {
+        Plate plate("test");
+        plate.ink({{10 + shift, 100}, {60 + shift, 100}, {60 + shift, 140}, {10 + shift, 140}});
+        return fingerprint(compose(plate, {.granulation = 0}));
+    };
+    EXPECT_EQ(draw(-20), draw(0));
+}
+
 TEST(Composition, CutsToTheSubjectWithMarginsOnWhite) {
     Plate plate("test");
     tube(plate, {{40, 300}, {300, 40}}, 12);

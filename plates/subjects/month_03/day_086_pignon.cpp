@@ -14,8 +14,8 @@ using namespace tambrelle::engraver;
 static const Subject subject{
     "day_086_pignon", [](Plate& p) {
         ground(p, 60, 350, 318, 5);
-        needleTufts(p, {{60, 112}, {120, 84}, {176, 66}, {230, 58}}, 6, 12, 96, palettes::leaf, 110);
-        tube(p, {{60, 112}, {120, 84}, {176, 66}, {230, 58}}, {6, 5.4, 4.4, 3},
+        needleTufts(p, {{60, 120}, {120, 94}, {176, 78}, {230, 72}}, 6, 12, 78, palettes::leaf, 110);
+        tube(p, {{60, 120}, {120, 94}, {176, 78}, {230, 72}}, {6, 5.4, 4.4, 3},
              {.palette = palettes::bark, .rough = 0.2});
         const Point heart{180, 232};
         const double rx = 84, ry = 92;

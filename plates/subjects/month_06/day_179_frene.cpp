@@ -19,8 +19,8 @@ static const Subject subject{
                                .petiole = 0.14,
                                .leaflets = 4,
                                .leafletWidth = 0.18};
-        growLeaf(p, along(curve, 0.06), 116, 214, 40, pinnate, -14);
-        growLeaf(p, along(curve, 0.96), 56, 222, 40, pinnate, 16);
+        growLeaf(p, along(curve, 0.06), 108, 206, 40, pinnate, -10);
+        growLeaf(p, along(curve, 0.96), 62, 212, 40, pinnate, 12);
         // Keys: the seed in the slender upper end, the wing a tongue below it.
         const auto key = [&](Point from, double degrees, double size, double bend) {
             const Point mid = polar(from, degrees, size * 0.5) + rightOf(direction(degrees)) * bend;

@@ -20,8 +20,8 @@ static const Subject subject{
                             .petiole = 0.14,
                             .leaflets = 3,
                             .leafletWidth = 0.34};
-        growLeaf(p, {214, 66}, 22, 158, 46, leaf, 22);
-        growLeaf(p, {110, 64}, 118, 130, 38, leaf, 14);
+        growLeaf(p, {214, 66}, 22, 152, 44, leaf, 22);
+        growLeaf(p, {116, 63}, 108, 124, 36, leaf, 12);
         const auto shell = [&](Point at, double r) {
             ball(p, at, r, {.palette = palettes::wood, .direction = -90, .squash = 1.14});
             p.stroke(spline({at + Point{2, -r * 1.1}, at + Point{r * 0.12, 0}, at + Point{0, r * 1.12}}),
