@@ -8,6 +8,16 @@ jobs=$(nproc)
 logs=$root/build/logs
 failed_steps=()
 
+# What is interrupted goes no further. A builder or a test's runner would answer the interruption with a status only.
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
+# usage: prints the comment at the head of the command, which lies at the root, and ends.
+usage() {
+    sed -n '2,/^[^#]/s/^# //p' "$root/${0##*/}" >&2
+    exit 2
+}
+
 now_ms() { date +%s%3N; }
 
 # step NAME COMMAND...: runs the command with its output in build/logs/NAME.log, prints the time it took, and on failure

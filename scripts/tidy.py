@@ -16,6 +16,7 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import shlex
 import subprocess
 import sys
@@ -25,7 +26,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 LEFT_OUT = ("plates/subjects/", "tests/fuzz/")  # the fuzzers are in no release build
 LARGEST_GROUP = 12
 # Our own folders, but not what the build generates below its own.
-HEADERS = f"^{ROOT}/(core|content|platform|app|ui|player|plates|resources|tests|bench)/"
+HEADERS = f"^{re.escape(str(ROOT))}/(core|content|platform|app|ui|player|plates|resources|tests|bench)/"
 DOES_NOT_COMPILE = "[clang-diagnostic-error"
 
 

@@ -8,9 +8,13 @@ complain() {
     echo "validate: $*"
     status=1
 }
-tracked() { git -c safe.directory="$PWD" ls-files -- "$@"; }
+names=$(mktemp)
+trap 'rm -f "$names"' EXIT
+git -c safe.directory="$PWD" ls-files -z -- '*.desktop' '*.metainfo.xml' '*.svg' '*.xml' '*.qrc' '*.[1-8]' >"$names" ||
+    complain "the tracked files are not known"
+[ -s "$names" ] || complain "there is nothing to validate"
 
-while IFS= read -r file; do
+while IFS= read -r -d '' file; do
     case $file in
     *.desktop) desktop-file-validate "$file" || complain "$file is no valid desktop entry" ;;
     *.metainfo.xml)
@@ -24,5 +28,5 @@ while IFS= read -r file; do
         mandoc -T lint -W style "$file" || complain "$file is no clean manual page"
         ;;
     esac
-done < <(tracked '*.desktop' '*.metainfo.xml' '*.svg' '*.xml' '*.qrc' '*.[1-8]')
+done <"$names"
 exit $status
