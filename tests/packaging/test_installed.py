@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """What an installation holds, and that the desktop reaches the installed program by it: by the bus, by the entry's actions.
 
-Needs TAMBRELLE_INSTALLATION, a prefix with nothing in it but this program's installation.
+Needs TAMBRELLE_INSTALLATION, a prefix with nothing in it but this program's installation; TAMBRELLE_VERSION; and
+TAMBRELLE_PLATES, 1 where the build has drawn them, else 0.
 """
 
 import configparser
@@ -32,6 +33,10 @@ SERVICE = PREFIX / f"share/dbus-1/services/{IDENTITY}.service"
 METAINFO = PREFIX / f"share/metainfo/{IDENTITY}.metainfo.xml"
 DOCUMENTS = PREFIX / "share/doc/tambrelle"
 
+# One a line, with the print of its picture; the tests of the plates hold this list against the days' names.
+APPROVED_PLATES = pathlib.Path(__file__).resolve().parent.parent / "plates" / "golden.txt"
+PLATES_ARE_DRAWN = os.environ["TAMBRELLE_PLATES"] == "1"
+
 FILES = {
     "bin/tambrelle",
     "libexec/tambrelle/tambrelle-player",
@@ -59,6 +64,9 @@ class Files(unittest.TestCase):
         found = {str(path.relative_to(PREFIX)) for path in PREFIX.rglob("*") if not path.is_dir()}
         plates = {path for path in found if re.fullmatch(r"share/tambrelle/plates/[^/]+\.png", path)}
         self.assertEqual(found - plates, FILES)
+        names = {line.split()[0] for line in APPROVED_PLATES.read_text(encoding="utf-8").splitlines()}
+        self.assertEqual(len(names), 361)
+        self.assertEqual({pathlib.Path(path).stem for path in plates}, names if PLATES_ARE_DRAWN else set())
 
     def test_no_folder_is_empty(self):
         self.assertEqual([path for path in PREFIX.rglob("*") if path.is_dir() and not any(path.iterdir())], [])

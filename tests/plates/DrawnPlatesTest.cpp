@@ -68,7 +68,7 @@ std::vector<double> thumbnail(const Picture& p) {
 
 } // namespace
 
-TEST(DrawnPlates, EveryRecipeHasTheNameOfADayAndLiesInItsMonth) {
+TEST(DrawnPlates, ThereIsOneRecipeForEachDayInItsMonthAndOneForTheGuillotine) {
     std::map<std::string, std::string> folders{{"Guillotine", "subjects"}};
     for (std::int64_t month = 1; month <= 12; ++month)
         for (std::int64_t day = 1; day <= 30; ++day) {
@@ -80,10 +80,13 @@ TEST(DrawnPlates, EveryRecipeHasTheNameOfADayAndLiesInItsMonth) {
         ASSERT_TRUE(folders.contains(path.stem())) << path;
         EXPECT_EQ(path.parent_path().filename(), folders[path.stem()]) << path;
     }
+    for (const auto& [name, folder] : folders)
+        EXPECT_TRUE(names().contains(name)) << "no recipe for " << name;
+    EXPECT_EQ(recipes().size(), folders.size());
 }
 
 TEST(DrawnPlates, HaveTheirSizeAndAreNotTooLarge) {
-    ASSERT_FALSE(plates().empty());
+    ASSERT_EQ(plates().size(), 361U);
     for (const auto& [name, picture] : plates()) {
         EXPECT_EQ(picture.width, 576) << name;
         EXPECT_EQ(picture.height, 520) << name;

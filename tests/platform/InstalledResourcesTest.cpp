@@ -3,6 +3,7 @@
 #include "tests/support/Printers.h"
 #include "tests/support/ScopedEnvironment.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -41,9 +42,13 @@ TEST(InstalledResourcesTest, MissingFolderHoldsNothing) {
 
 TEST(InstalledResourcesTest, WithoutAChoiceTheProgramsOwnPlaceCounts) {
     const test::ScopedEnvironment none("TAMBRELLE_RESOURCES", QByteArray());
-    // The tests lie one folder below the program, as an installed program lies one below its prefix.
-    const auto file = InstalledResources().file(QStringLiteral("no such resource"));
-    EXPECT_EQ(file, std::nullopt);
+    // The tests lie one folder below the build's resources, as an installed program lies one below its
+    // prefix.
+    const InstalledResources resources;
+    EXPECT_EQ(resources.file(QStringLiteral("marseillaise.mp3")),
+              QCoreApplication::applicationDirPath() +
+                  QStringLiteral("/../share/tambrelle/marseillaise.mp3"));
+    EXPECT_EQ(resources.file(QStringLiteral("no such resource")), std::nullopt);
 }
 
 } // namespace

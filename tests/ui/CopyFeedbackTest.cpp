@@ -60,12 +60,17 @@ TEST(EventLoopLaterTest, RunsTheActionFromTheEventLoop) {
 
 TEST(EventLoopLaterTest, AResetThatComesAfterTheEndOfItsPanelDoesNothing) {
     std::function<void()> reset;
+    int changes = 0;
+    QObject context;
     {
         CopyFeedback gone(
             [&reset](milliseconds, std::function<void()> action) { reset = std::move(action); });
+        QObject::connect(&gone, &CopyFeedback::changed, &context, [&changes] { ++changes; });
         gone.copied();
     }
+    ASSERT_EQ(changes, 1);
     reset();
+    EXPECT_EQ(changes, 1);
 }
 
 } // namespace

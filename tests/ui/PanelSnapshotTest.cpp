@@ -61,6 +61,24 @@ TEST_F(PanelSnapshotTest, WritesTheYearOfAnEventInRomanNumerals) {
     EXPECT_EQ(event.emoji, "⚡");
 }
 
+TEST(OnThisDayContentTest, HasTheFirstThreeEventsAtMostInTheirOrder) {
+    const auto titled = [](std::string_view title) {
+        return HistoricalData::Event{
+            .revolutionaryDate = {2, 23}, .year = 2, .title = title, .description = "Words", .emoji = "⚡"};
+    };
+    std::vector<HistoricalData::Event> events;
+    QStringList wanted;
+    for (const char* title : {"First", "Second", "Third", "Fourth", "Fifth"}) {
+        QStringList titles;
+        for (const EventContent& event : onThisDayContent(events).events)
+            titles.append(event.title);
+        EXPECT_EQ(titles, wanted) << "of " << events.size();
+        events.push_back(titled(title));
+        if (wanted.size() < 3)
+            wanted.append(title);
+    }
+}
+
 TEST_F(PanelSnapshotTest, AFestivalHasNoYear) {
     const PanelSnapshot snapshot = at({2025, 9, 19, 12, 0, 0});
     EXPECT_FALSE(snapshot.dailyItem);

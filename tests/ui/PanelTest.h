@@ -31,6 +31,10 @@ protected:
     MenuBarView& open(const CivilComponents& now) {
         panel.reset();
         state = std::make_unique<StateOnFakes>(now);
+        return openOnState();
+    }
+    /// The panel of a state that the test has made, on a desktop that it has furnished.
+    MenuBarView& openOnState() {
         panel = std::make_unique<MenuBarView>(state->panelServices());
         return show();
     }
@@ -47,7 +51,7 @@ protected:
         runQueued();
     }
 
-    /// The labels that show, from top to bottom.
+    /// The texts of the labels that show, in the order in which the panel was built.
     [[nodiscard]] QStringList texts() const {
         QStringList texts;
         for (const TextLabel* label : panel->findChildren<TextLabel*>()) {

@@ -1,6 +1,7 @@
 #include "ui/panel/PictureView.h"
 
 #include "tests/support/Printers.h"
+#include "tests/ui/PrintedColor.h"
 #include "ui/Ink.h"
 #include "ui/Palette.h"
 #include "ui/TextLabel.h"
@@ -11,21 +12,6 @@
 
 namespace tambrelle {
 namespace {
-
-int multiplied(int one, int other) {
-    return qRound(one * other / 255.0);
-}
-
-void expectNear(const QColor& found, const QColor& wanted, int distance = 1) {
-    EXPECT_NEAR(found.red(), wanted.red(), distance);
-    EXPECT_NEAR(found.green(), wanted.green(), distance);
-    EXPECT_NEAR(found.blue(), wanted.blue(), distance);
-}
-
-QColor multiplied(const QColor& one, const QColor& other) {
-    return {multiplied(one.red(), other.red()), multiplied(one.green(), other.green()),
-            multiplied(one.blue(), other.blue())};
-}
 
 class PictureViewTest : public ::testing::Test {
 protected:
@@ -51,8 +37,9 @@ protected:
 TEST_F(PictureViewTest, MultipliesThePlateWithTheThemesField) {
     const QColor ink(136, 170, 102);
     view.present(plate({288, 260}, ink), "🌿");
-    expectNear(grabbed(AppTheme::light).pixelColor(144, 130), multiplied(ink, Palette::parchment));
-    expectNear(grabbed(AppTheme::sepiaNight).pixelColor(144, 130), multiplied(ink, Palette::agedTan));
+    test::expectNear(grabbed(AppTheme::light).pixelColor(144, 130), test::printed(ink, Palette::parchment));
+    test::expectNear(grabbed(AppTheme::sepiaNight).pixelColor(144, 130),
+                     test::printed(ink, Palette::agedTan));
 }
 
 TEST_F(PictureViewTest, WhiteIsTheFieldAndBlackStaysBlack) {
@@ -68,8 +55,8 @@ TEST_F(PictureViewTest, FitsTheWholePlateWithItsProportions) {
     const QColor ink(0, 0, 200);
     view.present(plate({100, 200}, ink), "🌿"); // becomes 130 by 260, in the middle
     const QImage image = grabbed(AppTheme::sepiaNight);
-    expectNear(image.pixelColor(144 - 60, 130), multiplied(ink, Palette::agedTan));
-    expectNear(image.pixelColor(144 + 60, 130), multiplied(ink, Palette::agedTan));
+    test::expectNear(image.pixelColor(144 - 60, 130), test::printed(ink, Palette::agedTan));
+    test::expectNear(image.pixelColor(144 + 60, 130), test::printed(ink, Palette::agedTan));
     EXPECT_EQ(image.pixelColor(144 - 70, 130), Palette::agedTan) << "beside the plate is the field";
     EXPECT_EQ(image.pixelColor(144 + 70, 130), Palette::agedTan);
 }
@@ -83,10 +70,10 @@ TEST_F(PictureViewTest, HasRoundCornersAndABrassOutline) {
     const QColor outline(half(Palette::brass.red(), Palette::agedTan.red()),
                          half(Palette::brass.green(), Palette::agedTan.green()),
                          half(Palette::brass.blue(), Palette::agedTan.blue()));
-    expectNear(image.pixelColor(144, 0), outline, 2);
-    expectNear(image.pixelColor(144, 259), outline, 2);
-    expectNear(image.pixelColor(0, 130), outline, 2);
-    expectNear(image.pixelColor(287, 130), outline, 2);
+    test::expectNear(image.pixelColor(144, 0), outline, 2);
+    test::expectNear(image.pixelColor(144, 259), outline, 2);
+    test::expectNear(image.pixelColor(0, 130), outline, 2);
+    test::expectNear(image.pixelColor(287, 130), outline, 2);
     EXPECT_EQ(image.pixelColor(144, 1), Palette::agedTan) << "one pixel wide";
 }
 

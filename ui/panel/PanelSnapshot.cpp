@@ -60,14 +60,6 @@ EventContent eventContent(const HistoricalData::Event& event) {
     };
 }
 
-OnThisDayContent onThisDayContent(const CalendarManager& manager) {
-    const auto& events = manager.viewedEvents();
-    OnThisDayContent content;
-    for (std::size_t index = 0; index < std::min(events.size(), shownEvents); ++index)
-        content.events.push_back(eventContent(events[index]));
-    return content;
-}
-
 } // namespace
 
 PanelSnapshot panelSnapshot(const CalendarManager& manager, const SoundManager& sound,
@@ -78,11 +70,18 @@ PanelSnapshot panelSnapshot(const CalendarManager& manager, const SoundManager& 
         .header = headerContent(manager, context.locale),
         .time = timeContent(manager, context),
         .dailyItem = dailyItemContent(manager),
-        .onThisDay = onThisDayContent(manager),
+        .onThisDay = onThisDayContent(manager.viewedEvents()),
         .guillotine = {.daysSince =
                            context.locale.toString(HistoricalData::daysSinceLastGuillotine(context.now))},
         .footer = {.slogan = manager.currentSlogan(), .soundEnabled = sound.soundEnabled()},
     };
+}
+
+OnThisDayContent onThisDayContent(const std::vector<HistoricalData::Event>& events) {
+    OnThisDayContent content;
+    for (std::size_t index = 0; index < std::min(events.size(), shownEvents); ++index)
+        content.events.push_back(eventContent(events[index]));
+    return content;
 }
 
 QString ordinal(std::int64_t number) {

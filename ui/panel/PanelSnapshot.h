@@ -1,5 +1,6 @@
 #pragma once
 
+#include "content/HistoricalData.h"
 #include "core/Instant.h"
 #include "ui/AppTheme.h"
 
@@ -96,6 +97,9 @@ struct SnapshotContext {
 
 [[nodiscard]] PanelSnapshot panelSnapshot(const CalendarManager& manager, const SoundManager& sound,
                                           const SnapshotContext& context);
+
+/// The first of a day's events, `shownEvents` at most, in their order.
+[[nodiscard]] OnThisDayContent onThisDayContent(const std::vector<HistoricalData::Event>& events);
 
 /// The number with its English ending: "1st", "2nd", "3rd", and "th" after every other.
 [[nodiscard]] QString ordinal(std::int64_t number);
