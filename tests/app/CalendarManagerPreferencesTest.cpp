@@ -1,4 +1,4 @@
-#include "tests/app/LiveState.h"
+#include "tests/support/LiveState.h"
 
 #include <vector>
 
@@ -81,7 +81,7 @@ TEST_F(CalendarManagerPreferencesTest, AnnouncesBeforeItAssignsAndStores) {
     launch();
     QObject context;
     int announced = 0;
-    QObject::connect(calendar.get(), &ObservableObject::objectWillChange, &context, [&] {
+    QObject::connect(calendar, &ObservableObject::objectWillChange, &context, [&] {
         ++announced;
         EXPECT_EQ(calendar->menuBarFormat(), MenuBarFormat::dateAndTime);
         EXPECT_EQ(calendar->theme(), AppTheme::light);

@@ -2,7 +2,7 @@
 #include "content/DailyItems.h"
 #include "content/HistoricalData.h"
 #include "core/RevolutionaryCalendar.h"
-#include "tests/app/LiveState.h"
+#include "tests/support/LiveState.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #include "content/HistoricalData.h"
 #include "core/RevolutionaryCalendar.h"
-#include "tests/app/LiveState.h"
+#include "tests/support/LiveState.h"
 
 #include <chrono>
 #include <vector>
@@ -31,7 +31,7 @@ TEST_F(CalendarManagerTickTest, IsDroppedWhenTheManagerIsGone) {
     launch();
     platform.timer.fire();
     const int reads = platform.clock.reads();
-    calendar.reset();
+    end();
     test::runQueued();
     EXPECT_EQ(platform.clock.reads(), reads);
     platform.timer.fire();
@@ -61,7 +61,7 @@ TEST_F(CalendarManagerTickTest, AnnouncesBeforeItAssigns) {
     launch();
     std::vector<DecimalTime> seen;
     QObject context;
-    QObject::connect(calendar.get(), &ObservableObject::objectWillChange, &context,
+    QObject::connect(calendar, &ObservableObject::objectWillChange, &context,
                      [&] { seen.push_back(calendar->currentTime()); });
     tickAt(noon + 4min);
     EXPECT_EQ(seen, (std::vector{DecimalTime{5, 0, 0}}));
@@ -129,7 +129,7 @@ TEST_F(CalendarManagerTickTest, DoesItsStepsInOrder) {
     const DecimalTime timeBefore = calendar->currentTime();
     std::vector<Moment> moments;
     QObject context;
-    QObject::connect(calendar.get(), &ObservableObject::objectWillChange, &context, [&] {
+    QObject::connect(calendar, &ObservableObject::objectWillChange, &context, [&] {
         moments.push_back({calendar->todayDate(), calendar->viewedGregorianDate(), calendar->currentDate(),
                            platform.notifications.removals, chimes(), calendar->currentSlogan(),
                            calendar->currentTime()});

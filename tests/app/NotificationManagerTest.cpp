@@ -2,7 +2,7 @@
 
 #include "app/PreferenceKeys.h"
 #include "core/RevolutionaryDate.h"
-#include "tests/app/LiveState.h"
+#include "tests/support/LiveState.h"
 
 #include <chrono>
 #include <limits>

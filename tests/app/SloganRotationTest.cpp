@@ -1,6 +1,6 @@
 #include "app/Text.h"
 #include "content/HistoricalData.h"
-#include "tests/app/LiveState.h"
+#include "tests/support/LiveState.h"
 
 #include <chrono>
 

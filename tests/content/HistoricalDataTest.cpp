@@ -1,7 +1,8 @@
 #include "content/HistoricalData.h"
 #include "core/GraphemePrefix.h"
 #include "core/GregorianCalendar.h"
-#include "tests/core/ZoneGuard.h"
+#include "tests/support/LocalInstant.h"
+#include "tests/support/ScopedTimeZone.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,6 +20,7 @@ using HistoricalData::allEvents;
 using HistoricalData::daysSinceLastGuillotine;
 using HistoricalData::Event;
 using HistoricalData::events;
+using test::local;
 
 std::vector<Event> eventsOn(std::int64_t month, std::int64_t day, std::int64_t year = 234) {
     return events({year, month, day, (day - 1) % 10 + 1});
@@ -102,12 +104,8 @@ class GuillotineCounter : public testing::Test {
 protected:
     GuillotineCounter() { HistoricalData::lastGuillotineExecution(); }
 
-    test::ZoneGuard zone_{"Europe/Paris"};
+    test::ScopedTimeZone zone_{"Europe/Paris"};
 };
-
-Instant local(const CivilComponents& civil) {
-    return GregorianCalendar::instant(civil).value();
-}
 
 TEST_F(GuillotineCounter, StartsAtLocalMidnight) {
     EXPECT_EQ(HistoricalData::lastGuillotineExecution(), local({1977, 9, 10, 0, 0, 0}));

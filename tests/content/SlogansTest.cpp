@@ -1,5 +1,7 @@
 #include "content/HistoricalData.h"
 
+#include "tests/fakes/FakeRandomSource.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -8,8 +10,6 @@
 #include <map>
 #include <random>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 namespace tambrelle {
 namespace {
@@ -25,16 +25,6 @@ private:
     std::mt19937_64 engine_{1792};
 };
 
-class ScriptedWords : public RandomSource {
-public:
-    explicit ScriptedWords(std::vector<std::uint64_t> words) : words_{std::move(words)} {}
-    std::uint64_t next() override { return words_.at(drawn_++); }
-
-private:
-    std::vector<std::uint64_t> words_;
-    std::size_t drawn_ = 0;
-};
-
 TEST(Slogans, AreTheTen) {
     EXPECT_THAT(slogans, testing::ElementsAre(
                              "Liberté, Égalité, Fraternité", "Vivre libre ou mourir",
@@ -46,10 +36,11 @@ TEST(Slogans, AreTheTen) {
 }
 
 TEST(Slogans, AreDrawnByTheHighHalfOfTheProduct) {
-    ScriptedWords words{{0, 1, 0xFFFF'FFFF'FFFF'FFFF, 0x7FFF'FFFF'FFFF'FFFF}};
+    fakes::FakeRandomSource words{{0, 1, 0xFFFF'FFFF'FFFF'FFFF, 0x7FFF'FFFF'FFFF'FFFF}};
     EXPECT_EQ(randomSlogan(words), slogans[0]); // the word 0 is drawn again
     EXPECT_EQ(randomSlogan(words), slogans[9]);
     EXPECT_EQ(randomSlogan(words), slogans[4]);
+    EXPECT_EQ(words.draws, 4);
 }
 
 TEST(Slogans, AllOccurAboutEquallyOftenAndMayRepeat) {

@@ -1,7 +1,7 @@
 #include "core/DateTexts.h"
 #include "core/GregorianCalendar.h"
 #include "core/RevolutionaryCalendar.h"
-#include "tests/core/ZoneGuard.h"
+#include "tests/support/ScopedTimeZone.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ constexpr RevolutionaryDate brumaire{234, 2, 23, 3};
 constexpr DecimalTime noon{5, 0, 0};
 
 TEST(DateTexts, ReadAsInTheWorkedExample) {
-    const test::ZoneGuard zone{"Europe/Paris"};
+    const test::ScopedTimeZone zone{"Europe/Paris"};
     const auto instant = GregorianCalendar::instant({2025, 11, 15, 12, 0, 0});
     ASSERT_TRUE(instant.has_value());
     const auto today = RevolutionaryCalendar::fromGregorian(*instant);

@@ -1,7 +1,7 @@
 #include "core/GregorianCalendar.h"
 #include "core/RevolutionaryCalendar.h"
 #include "tests/core/Limits.h"
-#include "tests/core/ZoneGuard.h"
+#include "tests/support/ScopedTimeZone.h"
 
 #include <gtest/gtest.h>
 
@@ -29,7 +29,7 @@ using GregorianCalendar::components;
 using GregorianCalendar::daysBetween;
 using GregorianCalendar::instant;
 using GregorianCalendar::nextInstant;
-using test::ZoneGuard;
+using test::ScopedTimeZone;
 
 Instant utc(int year, unsigned month, unsigned day, std::chrono::seconds timeOfDay = 0s) {
     return std::chrono::sys_days{std::chrono::year{year} / static_cast<int>(month) / static_cast<int>(day)} +
@@ -37,7 +37,7 @@ Instant utc(int year, unsigned month, unsigned day, std::chrono::seconds timeOfD
 }
 
 TEST(GregorianCalendar, ReadsTheWallClock) {
-    const ZoneGuard zone{"Europe/Paris"};
+    const ScopedTimeZone zone{"Europe/Paris"};
     EXPECT_EQ(components(utc(2025, 11, 15, 11h)), (CivilComponents{2025, 11, 15, 12, 0, 0}));
     EXPECT_EQ(components(utc(2025, 7, 14, 22h + 30min + 5s)), (CivilComponents{2025, 7, 15, 0, 30, 5}));
     EXPECT_EQ(instant({2025, 11, 15, 12, 0, 0}), utc(2025, 11, 15, 11h));
@@ -45,33 +45,33 @@ TEST(GregorianCalendar, ReadsTheWallClock) {
 }
 
 TEST(GregorianCalendar, DropsFractionsTowardsThePast) {
-    const ZoneGuard zone{"UTC"};
+    const ScopedTimeZone zone{"UTC"};
     EXPECT_EQ(components(utc(1970, 1, 1) + 999'999us), (CivilComponents{1970, 1, 1, 0, 0, 0}));
     EXPECT_EQ(components(utc(1970, 1, 1) - 1us), (CivilComponents{1969, 12, 31, 23, 59, 59}));
 }
 
 TEST(GregorianCalendar, CountsLocalMeanTimeToTheSecond) {
-    const ZoneGuard zone{"Europe/Paris"}; // 9 minutes 21 seconds ahead until 1911
+    const ScopedTimeZone zone{"Europe/Paris"}; // 9 minutes 21 seconds ahead until 1911
     EXPECT_EQ(instant({1792, 9, 22, 0, 0, 0}), utc(1792, 9, 21, 23h + 50min + 39s));
     EXPECT_EQ(components(utc(1792, 9, 21, 23h + 50min + 38s)), (CivilComponents{1792, 9, 21, 23, 59, 59}));
 }
 
 TEST(GregorianCalendar, TakesAnUnknownZoneForUtc) {
     for (const char* name : {"Nowhere/Atlantis", ":/nonexistent", "", ":", "\xff\xfe", "../../etc/passwd"}) {
-        const ZoneGuard zone{name};
+        const ScopedTimeZone zone{name};
         EXPECT_EQ(components(utc(2025, 7, 14, 12h)), (CivilComponents{2025, 7, 14, 12, 0, 0})) << name;
         EXPECT_EQ(instant({2025, 7, 14, 12, 0, 0}), utc(2025, 7, 14, 12h)) << name;
     }
 }
 
 TEST(GregorianCalendar, ReadsARuleWithoutAFile) {
-    const ZoneGuard zone{"XXX-5:45YYY,M3.2.0/2,M11.1.0/2"};
+    const ScopedTimeZone zone{"XXX-5:45YYY,M3.2.0/2,M11.1.0/2"};
     EXPECT_EQ(components(utc(2025, 1, 1)), (CivilComponents{2025, 1, 1, 5, 45, 0}));
     EXPECT_EQ(components(utc(2025, 7, 1)), (CivilComponents{2025, 7, 1, 6, 45, 0}));
 }
 
 TEST(GregorianCalendar, FollowsAChangeOfZoneAtOnce) {
-    ZoneGuard zone{"Europe/Paris"};
+    ScopedTimeZone zone{"Europe/Paris"};
     const Instant noon = utc(2025, 11, 15, 12h);
     EXPECT_EQ(components(noon)->hour, 13);
     zone.set("Asia/Tokyo");
@@ -85,7 +85,7 @@ TEST(GregorianCalendar, FollowsAChangeOfZoneAtOnce) {
 }
 
 TEST(GregorianCalendar, RefusesFieldsOutOfTheirRanges) {
-    const ZoneGuard zone{"Europe/Paris"};
+    const ScopedTimeZone zone{"Europe/Paris"};
     for (const CivilComponents& civil : {CivilComponents{2025, 0, 1, 0, 0, 0},
                                          CivilComponents{2025, 13, 1, 0, 0, 0},
                                          CivilComponents{2025, 1, 0, 0, 0, 0},
@@ -120,7 +120,7 @@ TEST(GregorianCalendar, RefusesFieldsOutOfTheirRanges) {
 }
 
 TEST(GregorianCalendar, CountsDaysByTheWallClock) {
-    const ZoneGuard zone{"Europe/Paris"};
+    const ScopedTimeZone zone{"Europe/Paris"};
     const Instant noon = instant({2025, 11, 15, 12, 0, 0}).value();
     EXPECT_EQ(daysBetween(noon, noon), 0);
     EXPECT_EQ(daysBetween(noon, noon + 24h - 1us), 0);
@@ -133,7 +133,7 @@ TEST(GregorianCalendar, CountsDaysByTheWallClock) {
 }
 
 TEST(GregorianCalendar, CountsADayOf23And25HoursAsOne) {
-    const ZoneGuard zone{"Europe/Paris"};
+    const ScopedTimeZone zone{"Europe/Paris"};
     const auto noon = [](std::int64_t month, std::int64_t day) {
         return instant({2025, month, day, 12, 0, 0}).value();
     };
@@ -148,7 +148,7 @@ TEST(GregorianCalendar, CountsADayOf23And25HoursAsOne) {
 }
 
 TEST(GregorianCalendar, CountsDaysOverTheWholeRange) {
-    const ZoneGuard zone{"UTC"};
+    const ScopedTimeZone zone{"UTC"};
     const auto days = daysBetween(Instant::min(), Instant::max());
     EXPECT_EQ(days, 213'503'982); // 2^64 - 1 microseconds in days
     EXPECT_EQ(daysBetween(Instant::max(), Instant::min()), -213'503'982);
@@ -157,7 +157,7 @@ TEST(GregorianCalendar, CountsDaysOverTheWholeRange) {
 }
 
 TEST(GregorianCalendar, NeverCountsAgainstTheRunOfTime) {
-    const ZoneGuard zone{"America/Sitka"};                 // lived 18 October 1867 twice
+    const ScopedTimeZone zone{"America/Sitka"};            // lived 18 October 1867 twice
     const Instant change = utc(1867, 10, 19, 31min + 13s); // 15:30 local, when the clock went back by a day
     ASSERT_EQ(components(change)->day, 18);
     ASSERT_EQ(components(change - 1s)->day, 19);
@@ -166,7 +166,7 @@ TEST(GregorianCalendar, NeverCountsAgainstTheRunOfTime) {
 }
 
 TEST(GregorianCalendar, KeepsTheTimeOfDayWhenItAddsDays) {
-    const ZoneGuard zone{"Europe/Paris"};
+    const ScopedTimeZone zone{"Europe/Paris"};
     const Instant start = instant({2025, 3, 29, 12, 34, 56}).value() + 789'012us;
     EXPECT_EQ(addingDays(0, start), start);
     EXPECT_EQ(addingDays(1, start), instant({2025, 3, 30, 12, 34, 56}).value() + 789'012us);
@@ -178,7 +178,7 @@ TEST(GregorianCalendar, KeepsTheTimeOfDayWhenItAddsDays) {
 }
 
 TEST(GregorianCalendar, GivesNoDayOutOfRange) {
-    const ZoneGuard zone{"Europe/Paris"};
+    const ScopedTimeZone zone{"Europe/Paris"};
     const Instant now = utc(2025, 11, 15);
     for (const std::int64_t days : {greatest, least, greatest / 86'400, least / 86'400, greatest / 86'400 / 4,
                                     std::int64_t{1'000'000'000'000}, std::int64_t{-1'000'000'000'000},
@@ -192,7 +192,7 @@ TEST(GregorianCalendar, GivesNoDayOutOfRange) {
 }
 
 TEST(GregorianCalendar, SkipsTheHourThatSummerTimeSkips) {
-    const ZoneGuard zone{"Europe/Paris"};
+    const ScopedTimeZone zone{"Europe/Paris"};
     const Instant change = utc(2025, 3, 30, 1h);
     EXPECT_EQ(instant({2025, 3, 30, 2, 30, 0}), std::nullopt);
     EXPECT_EQ(instant({2025, 3, 30, 2, 0, 0}), std::nullopt);
@@ -207,7 +207,7 @@ TEST(GregorianCalendar, SkipsTheHourThatSummerTimeSkips) {
 }
 
 TEST(GregorianCalendar, TakesTheFirstOfARepeatedHour) {
-    const ZoneGuard zone{"Europe/Paris"};
+    const ScopedTimeZone zone{"Europe/Paris"};
     const Instant change = utc(2025, 10, 26, 1h);
     EXPECT_EQ(instant({2025, 10, 26, 2, 30, 0}), change - 30min);
     EXPECT_EQ(nextInstant({2025, 10, 26, 2, 30, 0}), change - 30min);
@@ -231,7 +231,7 @@ class SkippedMidnightTest : public testing::TestWithParam<SkippedMidnight> {};
 
 TEST_P(SkippedMidnightTest, BeginsTheDayAtTheFirstInstantThatThereIs) {
     const auto& row = GetParam();
-    const ZoneGuard zone{row.zone};
+    const ScopedTimeZone zone{row.zone};
     const CivilComponents midnight{row.year, row.month, row.day, 0, 0, 0};
     EXPECT_EQ(instant(midnight), std::nullopt);
     const auto begin = nextInstant(midnight);
@@ -264,7 +264,7 @@ INSTANTIATE_TEST_SUITE_P(Zones, SkippedMidnightTest,
                                          SkippedMidnight{"Asia/Tehran", 2022, 3, 22}));
 
 TEST(GregorianCalendar, FollowsTheWallClockThroughARepeatedMidnight) {
-    const ZoneGuard zone{"America/Sao_Paulo"}; // 17 February 2019 fell back at 00:00 to 23:00
+    const ScopedTimeZone zone{"America/Sao_Paulo"}; // 17 February 2019 fell back at 00:00 to 23:00
     const Instant change = utc(2019, 2, 17, 2h);
     EXPECT_EQ(components(change - 1s), (CivilComponents{2019, 2, 16, 23, 59, 59}));
     EXPECT_EQ(components(change), (CivilComponents{2019, 2, 16, 23, 0, 0}));
@@ -275,7 +275,8 @@ TEST(GregorianCalendar, FollowsTheWallClockThroughARepeatedMidnight) {
 }
 
 TEST(GregorianCalendar, FollowsTheWallClockWhereADayBeginsTwice) {
-    const ZoneGuard zone{"America/St_Johns"}; // on 7 November 2010 00:01 went back to 23:01 of the day before
+    const ScopedTimeZone zone{
+        "America/St_Johns"}; // on 7 November 2010 00:01 went back to 23:01 of the day before
     const Instant change = utc(2010, 11, 7, 2h + 31min);
     EXPECT_EQ(components(change - 1s), (CivilComponents{2010, 11, 7, 0, 0, 59}));
     EXPECT_EQ(components(change), (CivilComponents{2010, 11, 6, 23, 1, 0}));
@@ -294,7 +295,7 @@ TEST(GregorianCalendar, FollowsTheWallClockWhereADayBeginsTwice) {
 }
 
 TEST(GregorianCalendar, StepsOverADayThatAZoneLeftOut) {
-    const ZoneGuard zone{"Pacific/Apia"}; // there was no 30 December 2011
+    const ScopedTimeZone zone{"Pacific/Apia"}; // there was no 30 December 2011
     const Instant change = utc(2011, 12, 30, 10h);
     EXPECT_EQ(components(change - 1s), (CivilComponents{2011, 12, 29, 23, 59, 59}));
     EXPECT_EQ(components(change), (CivilComponents{2011, 12, 31, 0, 0, 0}));
@@ -310,7 +311,7 @@ TEST(GregorianCalendar, StepsOverADayThatAZoneLeftOut) {
     EXPECT_EQ(RevolutionaryCalendar::fromGregorian(change - 1us), (RevolutionaryDate{220, 4, 6, 6}));
     EXPECT_EQ(RevolutionaryCalendar::fromGregorian(change), (RevolutionaryDate{220, 4, 8, 8}));
 
-    const ZoneGuard manila{"Asia/Manila"}; // there was no 31 December 1844
+    const ScopedTimeZone manila{"Asia/Manila"}; // there was no 31 December 1844
     EXPECT_EQ(instant({1844, 12, 31, 12, 0, 0}), std::nullopt);
     const Instant newYear = nextInstant({1844, 12, 31, 12, 0, 0}).value();
     EXPECT_EQ(components(newYear), (CivilComponents{1845, 1, 1, 0, 0, 0}));
@@ -318,7 +319,7 @@ TEST(GregorianCalendar, StepsOverADayThatAZoneLeftOut) {
 }
 
 TEST(GregorianCalendar, KnowsHalfHoursOfSummerTime) {
-    const ZoneGuard zone{"Australia/Lord_Howe"}; // 02:00 becomes 02:30
+    const ScopedTimeZone zone{"Australia/Lord_Howe"}; // 02:00 becomes 02:30
     EXPECT_EQ(instant({2025, 10, 5, 2, 15, 0}), std::nullopt);
     EXPECT_EQ(components(nextInstant({2025, 10, 5, 2, 15, 0}).value()),
               (CivilComponents{2025, 10, 5, 2, 30, 0}));

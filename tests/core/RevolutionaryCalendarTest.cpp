@@ -1,7 +1,8 @@
 #include "core/RevolutionaryCalendar.h"
 #include "core/GregorianCalendar.h"
 #include "tests/core/Limits.h"
-#include "tests/core/ZoneGuard.h"
+#include "tests/support/LocalInstant.h"
+#include "tests/support/ScopedTimeZone.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -23,11 +24,7 @@ static_assert(std::is_aggregate_v<RevolutionaryDate> &&
               sizeof(RevolutionaryDate) == 4 * sizeof(std::int64_t));
 static_assert(std::is_aggregate_v<DecimalTime> && sizeof(DecimalTime) == 3 * sizeof(std::int64_t));
 
-using test::greatest, test::least;
-
-Instant local(const CivilComponents& civil) {
-    return GregorianCalendar::instant(civil).value();
-}
+using test::greatest, test::least, test::local;
 
 // The rule as it is told: year after year is taken off the count.
 RevolutionaryDate countedYearByYear(std::int64_t days) {
@@ -53,7 +50,7 @@ TEST(RepublicanDate, FollowsTheWorkedValuesAtAnyTimeOfDay) {
     };
     for (const char* zoneName :
          {"Europe/Paris", "UTC", "Asia/Kolkata", "America/St_Johns", "Pacific/Kiritimati"}) {
-        const test::ZoneGuard zone{zoneName};
+        const test::ScopedTimeZone zone{zoneName};
         for (const Row& row :
              {Row{{1792, 9, 21, 0, 0, 0}, {1, 1, 1, 1}}, Row{{1792, 9, 22, 0, 0, 0}, {1, 1, 1, 1}},
               Row{{1795, 9, 22, 0, 0, 0}, {3, 13, 6, 6}}, Row{{1795, 9, 23, 0, 0, 0}, {4, 1, 1, 1}},
@@ -82,7 +79,7 @@ TEST(RepublicanDate, CountsTheDaysOfTheWorkedValues) {
 }
 
 TEST(RepublicanDate, IsTheEpochsAtTheEpochAndBefore) {
-    const test::ZoneGuard zone{"Europe/Paris"};
+    const test::ScopedTimeZone zone{"Europe/Paris"};
     const RevolutionaryDate first{1, 1, 1, 1};
     const Instant epoch = local({1792, 9, 22, 0, 0, 0});
     EXPECT_EQ(fromGregorian(epoch), first);
@@ -121,7 +118,7 @@ TEST(RepublicanDate, RepeatsTheDecadeEveryTenDays) {
 
 TEST(RepublicanDate, ChangesAtLocalMidnightAndNotAtUtcs) {
     for (const char* zoneName : {"Asia/Tokyo", "America/Los_Angeles"}) {
-        const test::ZoneGuard zone{zoneName};
+        const test::ScopedTimeZone zone{zoneName};
         const Instant midnight = local({2025, 11, 15, 0, 0, 0});
         EXPECT_EQ(fromGregorian(midnight - 1us), (RevolutionaryDate{234, 2, 22, 2})) << zoneName;
         EXPECT_EQ(fromGregorian(midnight), (RevolutionaryDate{234, 2, 23, 3})) << zoneName;
@@ -151,12 +148,12 @@ TEST(RepublicanDate, IsTheSameAsCountedYearByYearAroundFarYears) {
     EXPECT_EQ(fromDayNumber(least), (RevolutionaryDate{1, 1, 1, 1}));
     EXPECT_GT(fromDayNumber(greatest).year, 25'000'000'000'000'000);
     // The farthest instant that there is.
-    const test::ZoneGuard zone{"UTC"};
+    const test::ScopedTimeZone zone{"UTC"};
     EXPECT_EQ(fromGregorian(Instant::max()).year, 292'449);
 }
 
 TEST(RepublicanDate, FollowsAChangeOfZoneAtOnce) {
-    test::ZoneGuard zone{"UTC"};
+    test::ScopedTimeZone zone{"UTC"};
     const Instant evening = local({2025, 11, 15, 20, 0, 0});
     EXPECT_EQ(fromGregorian(evening), (RevolutionaryDate{234, 2, 23, 3}));
     zone.set("Asia/Tokyo");
@@ -173,7 +170,7 @@ TEST(DecimalTime, FollowsTheWorkedValues) {
         DecimalTime time;
     };
     for (const char* zoneName : {"Europe/Paris", "UTC", "Asia/Kathmandu"}) {
-        const test::ZoneGuard zone{zoneName};
+        const test::ScopedTimeZone zone{zoneName};
         for (const Row& row : {Row{0, 0, 0, {0, 0, 0}}, Row{0, 0, 1, {0, 0, 1}}, Row{0, 0, 6, {0, 0, 6}},
                                Row{0, 0, 7, {0, 0, 8}}, Row{0, 0, 59, {0, 0, 68}}, Row{0, 1, 0, {0, 0, 69}},
                                Row{1, 0, 0, {0, 41, 66}}, Row{2, 24, 0, {1, 0, 0}}, Row{6, 0, 0, {2, 50, 0}},
@@ -186,7 +183,7 @@ TEST(DecimalTime, FollowsTheWorkedValues) {
 }
 
 TEST(DecimalTime, NeverReachesTheLastDecimalSecondNorTheTenthHour) {
-    const test::ZoneGuard zone{"Europe/Paris"};
+    const test::ScopedTimeZone zone{"Europe/Paris"};
     const Instant midnight = local({2025, 11, 15, 0, 0, 0});
     DecimalTime previous{0, 0, -1};
     for (std::int64_t second = 0; second < 86'400; ++second) {
@@ -202,7 +199,7 @@ TEST(DecimalTime, NeverReachesTheLastDecimalSecondNorTheTenthHour) {
 }
 
 TEST(DecimalTime, FollowsTheWallClockOnDaysOfUnusualLength) {
-    const test::ZoneGuard zone{"Europe/Paris"};
+    const test::ScopedTimeZone zone{"Europe/Paris"};
     EXPECT_EQ(toDecimalTime(local({2025, 3, 30, 3, 0, 0})), (DecimalTime{1, 25, 0}));
     EXPECT_EQ(toDecimalTime(local({2025, 3, 30, 3, 0, 0}) - 1s), (DecimalTime{0, 83, 32}));
     EXPECT_EQ(toDecimalTime(local({2025, 10, 26, 3, 0, 0})), (DecimalTime{1, 25, 0}));
@@ -212,7 +209,7 @@ TEST(DecimalTime, FollowsTheWallClockOnDaysOfUnusualLength) {
 }
 
 TEST(DecimalTime, DropsFractions) {
-    const test::ZoneGuard zone{"Europe/Paris"};
+    const test::ScopedTimeZone zone{"Europe/Paris"};
     for (const std::int64_t year : {1800, 1969, 1970, 2025}) { // both sides of the Unix epoch
         const Instant midnight = local({year, 1, 1, 0, 0, 0});
         EXPECT_EQ(toDecimalTime(midnight + 999'999us), (DecimalTime{0, 0, 0})) << year;
@@ -224,7 +221,7 @@ TEST(DecimalTime, DropsFractions) {
 TEST(DecimalTime, ReadsALeapSecondAsTheSecondBeforeIt) {
     if (!std::filesystem::exists("/usr/share/zoneinfo/right/UTC"))
         GTEST_SKIP() << "this system's zone data counts no leap seconds";
-    const test::ZoneGuard zone{"right/UTC"}; // which shows 23:59:60 here
+    const test::ScopedTimeZone zone{"right/UTC"}; // which shows 23:59:60 here
     const Instant afterLeap = local({2017, 1, 1, 0, 0, 0});
     ASSERT_EQ(afterLeap.time_since_epoch(), 1'483'228'827s);
     EXPECT_EQ(toDecimalTime(afterLeap - 1s), (DecimalTime{9, 99, 98}));

@@ -1,27 +1,15 @@
 #include "core/UniformIndex.h"
-#include "core/RandomSource.h"
+
+#include "tests/fakes/FakeRandomSource.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <cstddef>
 #include <limits>
-#include <utility>
-#include <vector>
 
 namespace tambrelle {
 namespace {
-
-class ScriptedWords : public RandomSource {
-public:
-    explicit ScriptedWords(std::vector<std::uint64_t> words) : words_{std::move(words)} {}
-    std::uint64_t next() override { return words_.at(drawn_++); }
-    std::size_t drawn() const { return drawn_; }
-
-private:
-    std::vector<std::uint64_t> words_;
-    std::size_t drawn_ = 0;
-};
 
 constexpr std::uint64_t greatest = std::numeric_limits<std::uint64_t>::max();
 
@@ -32,12 +20,12 @@ constexpr std::uint64_t firstWordOf(std::uint64_t index) {
 }
 
 TEST(UniformIndex, IsTheHighHalfOfTheProduct) {
-    ScriptedWords words{{greatest, greatest / 2, greatest / 2 + 1, greatest / 10}};
+    fakes::FakeRandomSource words{{greatest, greatest / 2, greatest / 2 + 1, greatest / 10}};
     EXPECT_EQ(uniformIndex(words, 10), 9u);
     EXPECT_EQ(uniformIndex(words, 10), 4u);
     // 2^63 times 10 has a low half of 0, which is drawn again; what follows is 10 * floor((2^64 - 1) / 10).
     EXPECT_EQ(uniformIndex(words, 10), 0u);
-    EXPECT_EQ(words.drawn(), 4u);
+    EXPECT_EQ(words.draws, 4);
 }
 
 TEST(UniformIndex, RejectsTheSixLowHalvesBelowSix) {
@@ -46,13 +34,13 @@ TEST(UniformIndex, RejectsTheSixLowHalvesBelowSix) {
     for (std::uint64_t index = 0; index < 10; ++index) {
         const std::uint64_t first = firstWordOf(index);
         const std::uint64_t low = first * 10;
-        ScriptedWords words{{first, greatest}};
+        fakes::FakeRandomSource words{{first, greatest}};
         if (low < 6) {
             EXPECT_EQ(uniformIndex(words, 10), 9u) << index;
-            EXPECT_EQ(words.drawn(), 2u) << index;
+            EXPECT_EQ(words.draws, 2) << index;
         } else {
             EXPECT_EQ(uniformIndex(words, 10), index);
-            EXPECT_EQ(words.drawn(), 1u) << index;
+            EXPECT_EQ(words.draws, 1) << index;
         }
     }
 }
@@ -71,15 +59,15 @@ TEST(UniformIndex, TurnsRejectedWordsIntoEqualShares) {
 }
 
 TEST(UniformIndex, TakesEachWordOnceWhereTheBoundIsAPowerOfTwo) {
-    ScriptedWords words{{0, 1, greatest}};
+    fakes::FakeRandomSource words{{0, 1, greatest}};
     EXPECT_EQ(uniformIndex(words, 8), 0u);
     EXPECT_EQ(uniformIndex(words, 8), 0u);
     EXPECT_EQ(uniformIndex(words, 1), 0u);
-    EXPECT_EQ(words.drawn(), 3u);
+    EXPECT_EQ(words.draws, 3);
 }
 
 TEST(UniformIndexDeathTest, StopsOnABoundOfZero) {
-    ScriptedWords words{{1}};
+    fakes::FakeRandomSource words{{1}};
     EXPECT_DEATH(uniformIndex(words, 0), "index into nothing");
 }
 

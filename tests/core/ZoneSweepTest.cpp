@@ -4,7 +4,7 @@
 #include "core/GregorianCalendar.h"
 #include "core/RevolutionaryCalendar.h"
 #include "tests/core/ZoneFile.h"
-#include "tests/core/ZoneGuard.h"
+#include "tests/support/ScopedTimeZone.h"
 
 #include <gtest/gtest.h>
 
@@ -114,7 +114,7 @@ protected:
             ++tally.zones;
             std::string name{":"};
             name += entry.path().string();
-            const test::ZoneGuard guard{name};
+            const test::ScopedTimeZone guard{name};
             SCOPED_TRACE(entry.path().string());
             sweepZone(*zone, tally);
             if (HasFatalFailure())

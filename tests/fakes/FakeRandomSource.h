@@ -4,12 +4,16 @@
 
 #include <cstdint>
 #include <deque>
+#include <initializer_list>
 
 namespace tambrelle::fakes {
 
 /// Gives the scripted words in their order, and then for ever the word whose index is 0.
 class FakeRandomSource final : public RandomSource {
 public:
+    FakeRandomSource() = default;
+    explicit FakeRandomSource(std::initializer_list<std::uint64_t> words) : script(words) {}
+
     std::uint64_t next() override {
         ++draws;
         if (script.empty())

@@ -4,20 +4,21 @@
 #include "platform/Clock.h"
 #include "platform/UserNotificationCenter.h"
 
-#include <algorithm>
 #include <functional>
+#include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
 namespace tambrelle::fakes {
 
 /// Keeps the requests in memory. Permission is answered when the test says so; what is due by the clock is
-/// delivered when asked.
+/// delivered when the test says so, or before everything is removed.
 class FakeUserNotificationCenter final : public UserNotificationCenter {
 public:
     struct Delivery {
         UserNotificationRequest request;
-        PresentationOptions options; ///< What the delegate answered; nothing without a delegate.
+        PresentationOptions options;
     };
 
     explicit FakeUserNotificationCenter(const Clock& clock) : clock(clock) {}
@@ -26,7 +27,7 @@ public:
 
     void requestAuthorization(std::function<void(bool)> onAnswer) override {
         ++authorizationRequests;
-        completion = std::move(onAnswer);
+        completions.push_back(std::move(onAnswer));
     }
 
     void removeAllPending() override {
@@ -38,34 +39,37 @@ public:
     void add(const UserNotificationRequest& request) override {
         ++additions;
         std::erase_if(requests, [&](const auto& other) { return other.identifier == request.identifier; });
-        requests.push_back(request);
+        if (dueTime(request))
+            requests.push_back(request);
     }
 
     [[nodiscard]] std::vector<UserNotificationRequest> pending() const override { return requests; }
 
-    /// The user's, or the desktop's, answer to the request for permission.
+    /// The user's, or the desktop's, answer to the requests for permission.
     void answer(bool isGranted) {
-        granted = isGranted;
-        if (completion)
-            std::exchange(completion, nullptr)(isGranted);
+        for (const auto& completion : std::exchange(completions, {}))
+            completion(isGranted);
     }
 
-    /// Shows what has become due; shows nothing without permission.
+    /// Shows the last of what has become due, unless the delegate wants no banner.
     void deliverDue() {
         const Instant now = clock.now();
-        const auto isDue = [now](const UserNotificationRequest& request) {
-            const CalendarTrigger& at = request.trigger;
-            const auto due = GregorianCalendar::instant({at.year, at.month, at.day, at.hour, at.minute, 0});
-            return due && *due <= now;
-        };
-        const auto firstDue = std::stable_partition(requests.begin(), requests.end(), std::not_fn(isDue));
-        if (granted) {
-            std::for_each(firstDue, requests.end(), [this](const UserNotificationRequest& request) {
-                delivered.push_back(
-                    {request, delegate != nullptr ? delegate->willPresent(request) : PresentationOptions{}});
-            });
+        std::multimap<Instant, UserNotificationRequest> due;
+        for (const UserNotificationRequest& request : requests) {
+            if (const auto time = dueTime(request); time && *time <= now)
+                due.emplace(*time, request);
         }
-        requests.erase(firstDue, requests.end());
+        if (due.empty())
+            return;
+        // Before the delegate is asked, which may schedule anew.
+        for (const auto& [time, request] : due)
+            std::erase(requests, request);
+        const UserNotificationRequest& last = due.rbegin()->second;
+        const PresentationOptions options = delegate != nullptr
+                                                ? delegate->willPresent(last)
+                                                : PresentationOptions{.banner = true, .sound = true};
+        if (options.banner)
+            delivered.push_back({last, options});
     }
 
     UserNotificationCenterDelegate* delegate = nullptr;
@@ -75,9 +79,14 @@ public:
     int additions = 0;
 
 private:
+    /// Absent for a time that no clock shows; a minute that the clock skips comes right after.
+    static std::optional<Instant> dueTime(const UserNotificationRequest& request) {
+        const CalendarTrigger& at = request.trigger;
+        return GregorianCalendar::nextInstant({at.year, at.month, at.day, at.hour, at.minute, 0});
+    }
+
     const Clock& clock;
-    bool granted = false;
-    std::function<void(bool)> completion;
+    std::vector<std::function<void(bool)>> completions;
     std::vector<UserNotificationRequest> requests;
 };
 

@@ -7,14 +7,21 @@
 
 namespace tambrelle::fakes {
 
-/// Keeps what it was given to show.
+/// Answers when the test lets it, and keeps what it was given to show.
 class FakeNotificationService final : public NotificationService {
 public:
-    void whenReachable(std::function<void()> reachable) override { waiting = std::move(reachable); }
+    void whenReachable(std::function<void()> reachable) override { waiting.push_back(std::move(reachable)); }
 
     void show(const UserNotificationRequest& request, PresentationOptions options) override {
         shown.push_back(request);
         lastOptions = options;
+    }
+
+    [[nodiscard]] bool isAwaited() const { return !waiting.empty(); }
+
+    void answer() {
+        for (const auto& reachable : std::exchange(waiting, {}))
+            reachable();
     }
 
     [[nodiscard]] std::vector<QString> identifiers() const {
@@ -24,9 +31,11 @@ public:
         return all;
     }
 
-    std::function<void()> waiting;
     std::vector<UserNotificationRequest> shown;
     PresentationOptions lastOptions;
+
+private:
+    std::vector<std::function<void()>> waiting;
 };
 
 } // namespace tambrelle::fakes

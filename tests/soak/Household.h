@@ -11,9 +11,9 @@
 #include "tests/fakes/FakeResourceBundle.h"
 #include "tests/fakes/FakeStatusItem.h"
 #include "tests/fakes/FakeSystemSound.h"
+#include "tests/platform/FakeNotificationService.h"
 #include "tests/platform/FakeWakeUp.h"
 #include "tests/soak/Chance.h"
-#include "tests/soak/FlakyNotificationService.h"
 #include "ui/MenuBarLabel.h"
 
 #include <QTemporaryDir>
@@ -38,7 +38,7 @@ struct Surroundings {
     fakes::FakeSystemSound systemSound;
     fakes::FakeStatusItem statusItem;
     fakes::FakeWakeUp wakeUp;
-    FlakyNotificationService notificationService;
+    fakes::FakeNotificationService notificationService;
     QTemporaryDir folder;
 };
 

@@ -98,7 +98,7 @@ void Life::end() {
     // What is due at this moment has its last chance with the event loop's next turn, which does not come.
     runTwoTurns();
     program.reset();
-    around.notificationService = FlakyNotificationService();
+    around.notificationService = fakes::FakeNotificationService();
     require(!around.wakeUp.armed, "the wake-up outlives its owner");
 }
 

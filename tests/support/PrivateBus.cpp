@@ -3,12 +3,23 @@
 #include "tests/support/EventLoop.h"
 
 #include <QDBusPendingCall>
+#include <QFile>
 
 namespace tambrelle::test {
 
 PrivateBus::PrivateBus() {
-    daemon.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                                                 QStringLiteral("--print-address=1")});
+    QFile configuration(folder.filePath(QStringLiteral("bus.conf")));
+    if (!configuration.open(QIODevice::WriteOnly))
+        return;
+    configuration.write(
+        "<busconfig><type>session</type><listen>unix:dir=" + QFile::encodeName(folder.path()) +
+        "</listen><auth>EXTERNAL</auth><policy context=\"default\"><allow user=\"*\"/>"
+        "<allow own=\"*\"/><allow send_destination=\"*\" eavesdrop=\"true\"/>"
+        "<allow eavesdrop=\"true\"/></policy></busconfig>");
+    configuration.close();
+    daemon.start(QStringLiteral("dbus-daemon"),
+                 {QStringLiteral("--config-file=") + configuration.fileName(), QStringLiteral("--nofork"),
+                  QStringLiteral("--nopidfile"), QStringLiteral("--print-address=1")});
     const bool spoke =
         daemon.waitForStarted() && waitUntil([this] { return daemon.canReadLine() || !daemon.isOpen(); });
     if (spoke)
@@ -18,7 +29,7 @@ PrivateBus::PrivateBus() {
 PrivateBus::~PrivateBus() {
     for (const QString& name : std::as_const(connections))
         QDBusConnection::disconnectFromBus(name);
-    daemon.terminate();
+    daemon.kill();
     daemon.waitForFinished();
 }
 

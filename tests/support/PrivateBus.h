@@ -4,14 +4,16 @@
 #include <QDBusMessage>
 #include <QProcess>
 #include <QString>
+#include <QTemporaryDir>
 #include <QVariantList>
 
 namespace tambrelle::test {
 
-/// A message bus of this process's own, apart from the user's session, with as many connections as wanted.
+/// A message bus of this process's own, empty at first and without services that it could start, with as many
+/// connections as wanted. It ends with this object.
 class PrivateBus final {
 public:
-    /// Starts the bus; `isRunning` is false where the machine has none.
+    /// `isRunning` is false where no bus could be started.
     PrivateBus();
     ~PrivateBus();
 
@@ -24,6 +26,7 @@ public:
     [[nodiscard]] QDBusConnection connect();
 
 private:
+    QTemporaryDir folder;
     QProcess daemon;
     QString address;
     QStringList connections;

@@ -1,31 +1,31 @@
 #pragma once
 
 #include <cstdlib>
-#include <ctime>
 #include <optional>
 #include <string>
 
 namespace tambrelle::test {
 
-/// Within its scope the local zone is `name`.
+/// Within its scope TZ names the local zone. Only the variable changes: code under test has to notice by
+/// itself.
 class ScopedTimeZone final {
 public:
-    explicit ScopedTimeZone(const char* name) {
+    explicit ScopedTimeZone(const std::string& name) {
         if (const char* before = std::getenv("TZ"))
             previous = before;
-        ::setenv("TZ", name, 1);
-        ::tzset();
+        set(name);
     }
     ~ScopedTimeZone() {
         if (previous)
-            ::setenv("TZ", previous->c_str(), 1);
+            set(*previous);
         else
             ::unsetenv("TZ");
-        ::tzset();
     }
 
     ScopedTimeZone(const ScopedTimeZone&) = delete;
     ScopedTimeZone& operator=(const ScopedTimeZone&) = delete;
+
+    void set(const std::string& name) { ::setenv("TZ", name.c_str(), 1); }
 
 private:
     std::optional<std::string> previous;

@@ -1,5 +1,5 @@
 #include "ui/CivilTexts.h"
-#include "tests/app/LocalInstant.h"
+#include "tests/support/LocalInstant.h"
 #include "tests/support/Printers.h"
 #include "tests/support/ScopedTimeZone.h"
 

@@ -1,16 +1,14 @@
 #pragma once
 
-#include "app/CalendarManager.h"
-#include "app/NotificationManager.h"
-#include "app/SoundManager.h"
-#include "tests/app/LocalInstant.h"
 #include "tests/fakes/FakePlatform.h"
+#include "tests/support/LaunchedState.h"
+#include "tests/support/LocalInstant.h"
 #include "ui/panel/MenuBarView.h"
 #include "ui/settings/SettingsView.h"
 
 namespace tambrelle::test {
 
-/// The live state with its services, on a desktop of fakes.
+/// A launched state on a desktop of fakes, and what the windows ask for of it.
 class StateOnFakes final {
 public:
     explicit StateOnFakes(const CivilComponents& now) : start{platform, local(now)} {}
@@ -46,12 +44,12 @@ private:
     struct Start {
         Start(fakes::FakePlatform& platform, Instant now) { platform.clock.set(now); }
     } start;
+    LaunchedState launched{platform};
 
 public:
-    SoundManager sound{{platform.defaults, platform.resources, platform.audioPlayer, platform.systemSound}};
-    NotificationManager notifications{{platform.clock, platform.defaults, platform.notifications}};
-    CalendarManager manager{
-        {platform.clock, platform.timer, platform.random, platform.defaults, sound, notifications}};
+    SoundManager& sound = launched.sound;
+    NotificationManager& notifications = launched.notifications;
+    CalendarManager& manager = launched.calendar;
     std::vector<Delayed> delayed;
 };
 

@@ -1,8 +1,8 @@
 #include "ui/TambrelleApp.h"
 
-#include "tests/app/LocalInstant.h"
 #include "tests/fakes/FakePlatform.h"
 #include "tests/support/EventLoop.h"
+#include "tests/support/LocalInstant.h"
 #include "tests/support/Printers.h"
 #include "tests/support/ScopedTimeZone.h"
 #include "ui/SymbolButton.h"

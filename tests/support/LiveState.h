@@ -1,12 +1,10 @@
 #pragma once
 
-#include "app/CalendarManager.h"
-#include "app/NotificationManager.h"
 #include "app/PreferenceKeys.h"
-#include "app/SoundManager.h"
-#include "tests/app/LocalInstant.h"
 #include "tests/fakes/FakePlatform.h"
 #include "tests/support/EventLoop.h"
+#include "tests/support/LaunchedState.h"
+#include "tests/support/LocalInstant.h"
 #include "tests/support/Printers.h"
 #include "tests/support/ScopedTimeZone.h"
 
@@ -30,17 +28,23 @@ protected:
     }
 
     CalendarManager& launch() {
-        sound = std::make_unique<SoundManager>(
-            SoundServices{platform.defaults, platform.resources, platform.audioPlayer, platform.systemSound});
-        notifications = std::make_unique<NotificationManager>(
-            NotificationServices{platform.clock, platform.defaults, platform.notifications});
-        calendar = std::make_unique<CalendarManager>(CalendarServices{
-            platform.clock, platform.timer, platform.random, platform.defaults, *sound, *notifications});
+        end();
+        launched = std::make_unique<LaunchedState>(platform);
+        sound = &launched->sound;
+        notifications = &launched->notifications;
+        calendar = &launched->calendar;
         return *calendar;
     }
     CalendarManager& launchAt(Instant instant) {
         platform.clock.set(instant);
         return launch();
+    }
+
+    void end() {
+        calendar = nullptr;
+        notifications = nullptr;
+        sound = nullptr;
+        launched.reset();
     }
 
     /// One firing of the timer at this instant, with the tick that it queues.
@@ -56,9 +60,13 @@ protected:
     /// 23 Brumaire an CCXXXIV, 5:00:00.
     const Instant noon = local({2025, 11, 15, 12, 0, 0});
     fakes::FakePlatform platform;
-    std::unique_ptr<SoundManager> sound;
-    std::unique_ptr<NotificationManager> notifications;
-    std::unique_ptr<CalendarManager> calendar;
+    /// Null until the launch, and after the end.
+    SoundManager* sound = nullptr;
+    NotificationManager* notifications = nullptr;
+    CalendarManager* calendar = nullptr;
+
+private:
+    std::unique_ptr<LaunchedState> launched;
 };
 
 /// Counts the announcements of an object.

@@ -1,6 +1,6 @@
 #include "ui/MenuBarLabel.h"
 
-#include "tests/app/LiveState.h"
+#include "tests/support/LiveState.h"
 
 #include <chrono>
 
