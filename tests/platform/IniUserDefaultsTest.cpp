@@ -1,6 +1,7 @@
 #include "platform/freedesktop/IniUserDefaults.h"
 
 #include "tests/support/EventLoop.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/Printers.h"
 
 #include <QFile>
@@ -12,7 +13,6 @@
 #include <random>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace tambrelle {
 namespace {
@@ -285,10 +285,11 @@ TEST_F(IniUserDefaultsTest, APipeInTheFilesPlaceIsNotWaitedFor) {
 }
 
 TEST_F(IniUserDefaultsTest, UnreadableFileReadsAsEmpty) {
-    if (::geteuid() == 0)
-        GTEST_SKIP() << "the superuser reads every file";
     write("[General]\nsoundEnabled=true\n");
+    const test::OrdinaryUser user(folder.path());
+    ASSERT_TRUE(user.isOrdinary());
     ASSERT_TRUE(QFile::setPermissions(path, QFileDevice::WriteOwner));
+    ASSERT_EQ(content(), "no such file") << "it can still be read";
     const IniUserDefaults defaults(path);
     expectEmpty(defaults);
 }
@@ -309,15 +310,16 @@ TEST_F(IniUserDefaultsTest, WhereNothingCanBeWrittenTheValuesStayInMemory) {
 }
 
 TEST_F(IniUserDefaultsTest, ReadOnlyFolderKeepsTheValuesInMemory) {
-    if (::geteuid() == 0)
-        GTEST_SKIP() << "the superuser writes into every folder";
     write("[General]\nnotificationHour=7\n");
+    const test::OrdinaryUser user(folder.path());
+    ASSERT_TRUE(user.isOrdinary());
     ASSERT_TRUE(QFile::setPermissions(folder.path(), QFileDevice::ReadOwner | QFileDevice::ExeOwner));
     IniUserDefaults defaults(path);
     defaults.setBoolean(sound, true);
     test::runQueued();
     EXPECT_TRUE(defaults.boolean(sound));
     EXPECT_EQ(defaults.integer(hour), 7);
+    EXPECT_EQ(content(), "[General]\nnotificationHour=7\n");
     ASSERT_TRUE(QFile::setPermissions(folder.path(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
                                                          QFileDevice::ExeOwner));
 }
