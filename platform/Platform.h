@@ -3,6 +3,7 @@
 #include "core/RandomSource.h"
 #include "platform/AudioPlayer.h"
 #include "platform/Clock.h"
+#include "platform/ContrastPreference.h"
 #include "platform/LoginItem.h"
 #include "platform/PopoverKind.h"
 #include "platform/RepeatingTimer.h"
@@ -26,6 +27,7 @@ struct Platform {
     UserNotificationCenter& notifications;
     LoginItem& loginItem;
     StatusItem& statusItem;
+    const ContrastPreference& contrast;
     PopoverKind popover = PopoverKind::grabbing;
 };
 

@@ -4,6 +4,7 @@
 #include "ui/Palette.h"
 
 #include <array>
+#include <span>
 
 namespace tambrelle {
 
@@ -49,12 +50,35 @@ const std::array<InkRow, 12>& inks() {
     return rows;
 }
 
+/// What stands in the place of the inks of the same name where the user wants more contrast: at least 7:1 for
+/// text. The grounds stay.
+const std::array<InkRow, 9>& strongInks() {
+    static const std::array<InkRow, 9> rows{{
+        {Ink::primary, QPalette::WindowText, Qt::black, Qt::white},
+        {Ink::secondary, QPalette::Text, black(0.85), white(0.92)},
+        {Ink::tertiary, QPalette::PlaceholderText, black(0.80), white(0.87)},
+        {Ink::quaternary, QPalette::Mid, black(0.75), white(0.82)},
+        {Ink::divider, QPalette::Midlight, black(0.50), white(0.50)},
+        {Ink::red, QPalette::BrightText, {128, 16, 12}, {255, 188, 180}},
+        {Ink::green, QPalette::LinkVisited, {16, 74, 28}, {150, 236, 168}},
+        {Ink::blue, QPalette::Link, {0, 58, 130}, {176, 212, 255}},
+        {Ink::focus, QPalette::Highlight, {0, 58, 130}, {176, 212, 255}},
+    }};
+    return rows;
+}
+
+void apply(std::span<const InkRow> rows, AppTheme theme, QPalette& palette) {
+    for (const InkRow& row : rows)
+        palette.setColor(row.role, theme == AppTheme::sepiaNight ? row.night : row.light);
+}
+
 } // namespace
 
-QPalette panelPalette(AppTheme theme) {
+QPalette panelPalette(AppTheme theme, Contrast contrast) {
     QPalette palette;
-    for (const InkRow& row : inks())
-        palette.setColor(row.role, theme == AppTheme::sepiaNight ? row.night : row.light);
+    apply(inks(), theme, palette);
+    if (contrast == Contrast::high)
+        apply(strongInks(), theme, palette);
     return palette;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ContrastPreference.h"
 #include "ui/AppTheme.h"
 
 #include <QPalette>
@@ -25,8 +26,9 @@ enum class Ink : std::uint8_t {
 };
 
 /// The colours of a theme, the same in every colour group, so that neither the desktop's appearance nor an
-/// inactive window changes them. Widgets inherit them and look them up with `color`.
-[[nodiscard]] QPalette panelPalette(AppTheme theme);
+/// inactive window changes them; only the user's wish for more contrast makes the texts stand out more.
+/// Widgets inherit them and look them up with `color`.
+[[nodiscard]] QPalette panelPalette(AppTheme theme, Contrast contrast = Contrast::normal);
 
 /// The colour of `ink` in a palette made by `panelPalette`.
 [[nodiscard]] QColor color(const QPalette& palette, Ink ink);

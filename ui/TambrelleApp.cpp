@@ -33,7 +33,8 @@ PanelWindow& TambrelleApp::panelWindow() {
         auto* view = new MenuBarView({.manager = calendarManager,
                                       .sound = sound,
                                       .clock = platform.clock,
-                                      .resources = platform.resources});
+                                      .resources = platform.resources,
+                                      .contrast = platform.contrast});
         panel = std::make_unique<PanelWindow>(view, platform.popover);
         connect(view, &MenuBarView::settingsRequested, this, &TambrelleApp::openSettings);
         connect(view, &MenuBarView::quitRequested, qApp, &QCoreApplication::quit, Qt::QueuedConnection);

@@ -5,6 +5,7 @@
 #include "platform/freedesktop/EventLoopTimer.h"
 #include "platform/freedesktop/IniUserDefaults.h"
 #include "platform/freedesktop/InstalledResources.h"
+#include "platform/freedesktop/PortalContrast.h"
 #include "platform/freedesktop/SessionBus.h"
 #include "platform/freedesktop/SystemClock.h"
 #include "platform/freedesktop/SystemRandomSource.h"
@@ -20,7 +21,8 @@
 namespace tambrelle {
 
 struct FreedesktopPlatform::Parts {
-    explicit Parts(const SessionBus& bus) : notificationService(bus.connection()), statusItem(bus) {
+    explicit Parts(const SessionBus& bus)
+        : notificationService(bus.connection()), statusItem(bus), contrast(bus) {
         QObject::connect(&bus, &SessionBus::changed, &notificationService,
                          [this, &bus] { notificationService.follow(bus.connection()); });
     }
@@ -38,6 +40,7 @@ struct FreedesktopPlatform::Parts {
     AutostartLoginItem loginItem{AutostartLoginItem::standardFolder(),
                                  QCoreApplication::applicationFilePath()};
     FreedesktopStatusItem statusItem;
+    PortalContrast contrast;
 };
 
 FreedesktopPlatform::FreedesktopPlatform(const SessionBus& bus) : parts(std::make_unique<Parts>(bus)) {}
@@ -55,6 +58,7 @@ Platform FreedesktopPlatform::ports() {
             .notifications = parts->notifications,
             .loginItem = parts->loginItem,
             .statusItem = parts->statusItem,
+            .contrast = parts->contrast,
             .popover = popoverKind()};
 }
 

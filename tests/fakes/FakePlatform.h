@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "tests/fakes/FakeAudioPlayer.h"
 #include "tests/fakes/FakeClock.h"
+#include "tests/fakes/FakeContrastPreference.h"
 #include "tests/fakes/FakeLoginItem.h"
 #include "tests/fakes/FakeRandomSource.h"
 #include "tests/fakes/FakeRepeatingTimer.h"
@@ -26,6 +27,7 @@ struct FakePlatform {
     FakeUserNotificationCenter notifications{clock};
     FakeLoginItem loginItem;
     FakeStatusItem statusItem;
+    FakeContrastPreference contrast;
 
     [[nodiscard]] Platform ports() {
         return {.clock = clock,
@@ -37,7 +39,8 @@ struct FakePlatform {
                 .systemSound = systemSound,
                 .notifications = notifications,
                 .loginItem = loginItem,
-                .statusItem = statusItem};
+                .statusItem = statusItem,
+                .contrast = contrast};
     }
 
     /// Sets the clock and lets the notification centre see it.

@@ -90,15 +90,32 @@ TEST(InkTest, EveryTextCanBeRead) {
     }
 }
 
+TEST(InkTest, MoreContrastIsMoreForEveryText) {
+    constexpr double readableByMost = 7;
+    for (const AppTheme theme : allCases<AppTheme>()) {
+        const QPalette normal = panelPalette(theme);
+        const QPalette high = panelPalette(theme, Contrast::high);
+        const QColor ground = color(high, Ink::background);
+        EXPECT_EQ(ground, color(normal, Ink::background));
+        for (const auto& [ink, name] : textInks) {
+            EXPECT_GE(contrast(color(high, ink), ground), readableByMost) << rawValue(theme) << " " << name;
+            EXPECT_GT(contrast(color(high, ink), ground), contrast(color(normal, ink), ground))
+                << rawValue(theme) << " " << name;
+        }
+    }
+}
+
 TEST(InkTest, FainterStylesAreFainter) {
     for (const AppTheme theme : allCases<AppTheme>()) {
-        const QPalette palette = panelPalette(theme);
-        const QColor ground = color(palette, Ink::background);
-        double last = contrast(color(palette, Ink::primary), ground);
-        for (const Ink ink : {Ink::secondary, Ink::tertiary, Ink::quaternary, Ink::divider}) {
-            const double next = contrast(color(palette, ink), ground);
-            EXPECT_LT(next, last);
-            last = next;
+        for (const Contrast wanted : {Contrast::normal, Contrast::high}) {
+            const QPalette palette = panelPalette(theme, wanted);
+            const QColor ground = color(palette, Ink::background);
+            double last = contrast(color(palette, Ink::primary), ground);
+            for (const Ink ink : {Ink::secondary, Ink::tertiary, Ink::quaternary, Ink::divider}) {
+                const double next = contrast(color(palette, ink), ground);
+                EXPECT_LT(next, last);
+                last = next;
+            }
         }
     }
 }

@@ -19,6 +19,7 @@ public:
                 .sound = sound,
                 .clock = platform.clock,
                 .resources = platform.resources,
+                .contrast = platform.contrast,
                 .later = [this](std::chrono::milliseconds delay, std::function<void()> action) {
                     delayed.push_back({delay, std::move(action)});
                 }};

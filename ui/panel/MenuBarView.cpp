@@ -3,6 +3,7 @@
 #include "app/CalendarManager.h"
 #include "app/SoundManager.h"
 #include "platform/Clock.h"
+#include "platform/ContrastPreference.h"
 #include "ui/FocusRing.h"
 #include "ui/Ink.h"
 #include "ui/Spacing.h"
@@ -75,6 +76,7 @@ MenuBarView::MenuBarView(const PanelServices& services, QWidget* parent)
     refresher.observe(services.manager);
     refresher.observe(services.sound);
     refresh();
+    connect(&services.contrast, &ContrastPreference::changed, this, &MenuBarView::applyInks);
 }
 
 void MenuBarView::connectControls() {
@@ -89,6 +91,10 @@ void MenuBarView::connectControls() {
     connect(&feedback, &CopyFeedback::changed, footer, &FooterSection::showCopied);
 }
 
+void MenuBarView::applyInks() {
+    setPalette(panelPalette(shown->theme, services.contrast.contrast()));
+}
+
 void MenuBarView::refresh() {
     present(
         panelSnapshot(services.manager, services.sound, {.now = services.clock.now(), .locale = QLocale()}));
@@ -98,7 +104,7 @@ void MenuBarView::present(const PanelSnapshot& snapshot) {
     if (snapshot == shown)
         return;
     if (!shown || shown->theme != snapshot.theme)
-        setPalette(panelPalette(snapshot.theme));
+        setPalette(panelPalette(snapshot.theme, services.contrast.contrast()));
     navigation->present(snapshot.onToday);
     header->present(snapshot.header);
     time->present(snapshot.time);

@@ -11,6 +11,7 @@
 namespace tambrelle {
 
 class Clock;
+class ContrastPreference;
 class DailyItemSection;
 class Divider;
 class FocusRing;
@@ -28,6 +29,7 @@ struct PanelServices {
     SoundManager& sound;
     const Clock& clock;
     const ResourceBundle& resources;
+    const ContrastPreference& contrast;
     Later later = eventLoopLater();
 };
 
@@ -64,6 +66,7 @@ protected:
 
 private:
     void connectControls();
+    void applyInks();
     void fitHeight();
     void copyToClipboard();
     void chime(bool test);
