@@ -73,6 +73,9 @@ void FreedesktopStatusItem::watch() {
     watcher = std::make_unique<NotifierWatcher>(bus.connection());
     connect(watcher.get(), &NotifierWatcher::changed, this, [this] {
         patience.stop();
+        // Still none: what is shown stays, and a label where its user has put it.
+        if (watcherKnown && !watcher->isPresent() && !chosenForWatcher)
+            return;
         watcherKnown = true;
         watcherRefused = false;
         choose();
@@ -96,6 +99,7 @@ void FreedesktopStatusItem::choose() {
     presentations.clear();
     if (!content || !watcherKnown)
         return;
+    chosenForWatcher = watcher->isPresent();
     const Bar bar = barOf(watcher->program());
     const bool notified = watcher->isPresent() && !watcherRefused;
     const bool docked = tray.isPresent() && !lineRefused && !(notified && bar.betterThanDocked);

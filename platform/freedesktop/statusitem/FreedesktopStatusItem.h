@@ -36,10 +36,11 @@ private:
     TrayManager tray;
     std::unique_ptr<NotifierWatcher> watcher; ///< On the present bus.
     QTimer patience;
-    bool watcherKnown = false;   ///< Whether the bus has said who takes items, if anybody.
-    bool lineRefused = false;    ///< Whether the present tray has given the line too little room.
-    bool iconRefused = false;    ///< Whether the present tray has not taken the square icon either.
-    bool watcherRefused = false; ///< Whether the present watcher has answered by an error.
+    bool watcherKnown = false;     ///< Whether the bus has said who takes items, if anybody.
+    bool chosenForWatcher = false; ///< Whether there was a watcher when the line was last given its place.
+    bool lineRefused = false;      ///< Whether the present tray has given the line too little room.
+    bool iconRefused = false;      ///< Whether the present tray has not taken the square icon either.
+    bool watcherRefused = false;   ///< Whether the present watcher has answered by an error.
     std::optional<StatusItemContent> content;
     std::vector<std::unique_ptr<Presentation>> presentations;
 };
