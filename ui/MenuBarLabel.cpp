@@ -22,11 +22,7 @@ void MenuBarLabel::refresh() {
     if (next == builtFrom)
         return;
     builtFrom = next;
-    const StatusItemContent content{.line = manager.menuBarText(), .day = next.date.day};
-    if (content == shown)
-        return;
-    shown = content;
-    item.present(content);
+    item.present({.line = manager.menuBarText(), .day = next.date.day});
 }
 
 } // namespace tambrelle

@@ -12,7 +12,8 @@ namespace tambrelle {
 
 class CalendarManager;
 
-/// Keeps the item in the status bar at the manager's line, and tells it only when that changes.
+/// Keeps the item in the status bar at the manager's line, and tells it only when something changes that the
+/// line may be made of.
 class MenuBarLabel final {
 public:
     MenuBarLabel(const CalendarManager& manager, StatusItem& item);
@@ -34,7 +35,6 @@ private:
     const CalendarManager& manager;
     StatusItem& item;
     std::optional<Inputs> builtFrom;
-    std::optional<StatusItemContent> shown;
     Refresher refresher;
 };
 

@@ -1,12 +1,14 @@
 #include "ui/TambrelleApp.h"
 
 #include "ui/ApplicationIcon.h"
+#include "ui/TypeScale.h"
 #include "ui/panel/MenuBarView.h"
 #include "ui/panel/PanelWindow.h"
 #include "ui/settings/SettingsView.h"
 
 #include <QCoreApplication>
 #include <QCursor>
+#include <QGuiApplication>
 
 namespace tambrelle {
 
@@ -29,7 +31,11 @@ TambrelleApp::~TambrelleApp() {
 }
 
 PanelWindow& TambrelleApp::panelWindow() {
+    const TextSettings text{.font = QGuiApplication::font(), .scale = textScale()};
+    if (panel && !panel->isVisible() && text != panelText)
+        panel.reset();
     if (!panel) {
+        panelText = text;
         auto* view = new MenuBarView({.manager = calendarManager,
                                       .sound = sound,
                                       .clock = platform.clock,

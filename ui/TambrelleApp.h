@@ -6,6 +6,7 @@
 #include "platform/Platform.h"
 #include "ui/MenuBarLabel.h"
 
+#include <QFont>
 #include <QObject>
 #include <QPointer>
 
@@ -31,6 +32,14 @@ public:
     void openSettings();
 
 private:
+    /// What the panel's text is set by; a panel that is open keeps its own.
+    struct TextSettings {
+        QFont font;
+        double scale = 1;
+
+        bool operator==(const TextSettings&) const = default;
+    };
+
     [[nodiscard]] PanelWindow& panelWindow();
 
     Platform platform;
@@ -38,7 +47,8 @@ private:
     NotificationManager notifications;
     CalendarManager calendarManager;
     MenuBarLabel label;
-    std::unique_ptr<PanelWindow> panel; ///< made when it is first opened
+    std::unique_ptr<PanelWindow> panel; ///< made when it is first opened, and for other text anew
+    TextSettings panelText;             ///< that the panel was made for
     QPointer<SettingsView> settings;    ///< while its window is open
 };
 

@@ -1,5 +1,7 @@
 #include "ui/panel/CopyButton.h"
 
+#include "tests/support/EventLoop.h"
+
 #include <QImage>
 #include <QPixmap>
 #include <QProxyStyle>
@@ -42,6 +44,18 @@ TEST(CopyButtonTest, FadesInWhereMovementIsWelcome) {
     button.setStyle(&style);
     button.show();
     EXPECT_NE(rightAfterACopy(button), whenDone());
+}
+
+TEST(CopyButtonTest, FadesTheOldSymbolOut) {
+    Movements style(200);
+    CopyButton button;
+    button.setStyle(&style);
+    button.show();
+    const QSize place = button.sizeHint();
+    button.resize(place);
+    const QImage before = button.grab().toImage();
+    EXPECT_EQ(rightAfterACopy(button).copy(QRect(QPoint(), before.size())), before) << "it is gone at once";
+    EXPECT_TRUE(test::waitUntil([&button] { return button.grab().toImage() == whenDone(); }));
 }
 
 TEST(CopyButtonTest, ChangesAtOnceWhereTheUserAskedForRest) {

@@ -56,9 +56,9 @@ TEST_F(MenuBarLabelTest, FollowsTheFormat) {
 TEST_F(MenuBarLabelTest, FormatWithoutTimeStaysForTheDay) {
     calendar->setMenuBarFormat(MenuBarFormat::date);
     test::runQueued();
-    const std::size_t before = presented().size();
+    const StatusItemContent before = presented().back();
     tickAt(noon + 5h);
-    EXPECT_EQ(presented().size(), before);
+    EXPECT_EQ(presented().back(), before);
     tickAt(noon + 12h);
     EXPECT_EQ(line(), QStringLiteral("🌫️ 24 Brum."));
     EXPECT_EQ(presented().back().day, 24);

@@ -363,9 +363,14 @@ TEST_F(MenuBarViewTest, AScreenReaderFindsEveryControlAndText) {
 TEST_F(MenuBarViewTest, CopiesTheShareableText) {
     open(test::anItemAndNoEvent);
     press(Qt::Key_Left);
+    QObject context;
+    int changes = 0;
+    QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &context,
+                     [&changes] { ++changes; });
     click("Copy");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "🌫️ 22 Brumaire an CCXXXIV · 5:00 décimal");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), state->manager.shareableText());
+    EXPECT_EQ(changes, 1) << "never empty in between";
     EXPECT_EQ(button("Copy")->symbolName(), "checkmark");
     EXPECT_EQ(button("Copy")->text(), "Copied!");
     EXPECT_EQ(button("Copy")->ink(), Ink::green);

@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 
@@ -76,6 +77,24 @@ TEST_F(TambrelleAppTest, MakesThePanelAtTheFirstClickAndKeepsIt) {
     EXPECT_FALSE(first->isVisible());
     clickItem();
     EXPECT_EQ(windows<PanelWindow>(), QList<PanelWindow*>{first});
+}
+
+TEST_F(TambrelleAppTest, MakesThePanelAnewForAnotherFont) {
+    clickItem();
+    const QPointer<PanelWindow> first = windows<PanelWindow>().constFirst();
+    const QFont before = QApplication::font();
+    QFont larger = before;
+    larger.setPointSizeF(before.pointSizeF() * 2);
+    QApplication::setFont(larger);
+    clickItem();
+    ASSERT_EQ(windows<PanelWindow>().size(), 1);
+    EXPECT_EQ(windows<PanelWindow>().constFirst(), first.data()) << "it has been open, and is only closed";
+    EXPECT_FALSE(windows<PanelWindow>().constFirst()->isVisible());
+    clickItem();
+    EXPECT_FALSE(first);
+    ASSERT_EQ(windows<PanelWindow>().size(), 1);
+    EXPECT_TRUE(windows<PanelWindow>().constFirst()->isVisible());
+    QApplication::setFont(before);
 }
 
 TEST_F(TambrelleAppTest, OpensTheSettingsFromThePanelAndClosesThePanel) {

@@ -2,6 +2,7 @@
 
 #include "ui/SymbolButton.h"
 
+#include <QPixmap>
 #include <QVariantAnimation>
 
 namespace tambrelle {
@@ -13,10 +14,16 @@ class CopyButton final : public SymbolButton {
 public:
     explicit CopyButton(QWidget* parent = nullptr);
 
-    /// The new symbol and words take their place at once and fade in.
+    /// The new symbol and words take their place at once and fade in, while the old ones fade out.
     void showCopied(bool copied);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
+    [[nodiscard]] QPixmap look();
+
+    QPixmap leaving; ///< what it looked like before, as long as that is seen
     QVariantAnimation fade;
 };
 

@@ -154,9 +154,8 @@ void MenuBarView::fitHeight() {
 }
 
 void MenuBarView::copyToClipboard() {
-    QClipboard* clipboard = QGuiApplication::clipboard();
-    clipboard->clear();
-    clipboard->setText(services.manager.shareableText());
+    // In the place of all that was there.
+    QGuiApplication::clipboard()->setText(services.manager.shareableText());
     feedback.copied();
 }
 
