@@ -45,9 +45,10 @@ CalendarManager::CalendarManager(const CalendarServices& services, Instant now)
       publishedTodayDate(*this, RevolutionaryCalendar::fromGregorian(now)),
       publishedCurrentTime(*this, RevolutionaryCalendar::toDecimalTime(now)),
       publishedCurrentSlogan(*this, toQString(HistoricalData::randomSlogan(services.random))),
-      publishedMenuBarFormat(
-          *this, storedOr(services.defaults, PreferenceKeys::menuBarFormat, MenuBarFormat::dateAndTime)),
-      publishedTheme(*this, storedOr(services.defaults, PreferenceKeys::appTheme, AppTheme::light)),
+      publishedMenuBarFormat(*this, storedOr(services.defaults, PreferenceKeys::menuBarFormat,
+                                             PreferenceKeys::menuBarFormatOtherwise)),
+      publishedTheme(
+          *this, storedOr(services.defaults, PreferenceKeys::appTheme, PreferenceKeys::appThemeOtherwise)),
       publishedDayOffset(*this, 0),
       publishedCurrentDate(*this, todayDate()),
       publishedViewedGregorianDate(*this, now),

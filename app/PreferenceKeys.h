@@ -1,5 +1,8 @@
 #pragma once
 
+#include "core/MenuBarFormat.h"
+#include "ui/AppTheme.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -7,11 +10,13 @@
 /// Every stored preference, declared once: its key, and what a first run or a missing value gives.
 namespace tambrelle::PreferenceKeys {
 
-/// Raw value of a MenuBarFormat; MenuBarFormat::dateAndTime when missing or unknown.
+/// Raw value of a MenuBarFormat.
 inline const QString menuBarFormat = QStringLiteral("menuBarFormat");
+inline constexpr MenuBarFormat menuBarFormatOtherwise = MenuBarFormat::dateAndTime; ///< missing or unknown
 
-/// Raw value of an AppTheme; AppTheme::light when missing or unknown.
+/// Raw value of an AppTheme.
 inline const QString appTheme = QStringLiteral("appTheme");
+inline constexpr AppTheme appThemeOtherwise = AppTheme::light; ///< missing or unknown
 
 /// Boolean: whether chimes sound.
 inline const QString soundEnabled = QStringLiteral("soundEnabled");

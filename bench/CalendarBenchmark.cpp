@@ -1,13 +1,13 @@
 // What a conversion costs beside the one reading of the zone that it cannot do without, timed turn about in
 // the same run.
 
+#include "bench/ZoneLookup.h"
 #include "core/RevolutionaryCalendar.h"
 
 #include <benchmark/benchmark.h>
 
 #include <chrono>
 #include <cstdlib>
-#include <ctime>
 #include <string>
 
 namespace {
@@ -18,14 +18,6 @@ using SteadyClock = std::chrono::steady_clock;
 constexpr int callsATurn = 200;
 constexpr Instant noon{std::chrono::sys_days{std::chrono::year{2025} / 11 / 15} + std::chrono::hours{12}};
 constexpr std::chrono::milliseconds decimalSecond{864};
-
-void readZone(Instant at) {
-    tzset();
-    const std::time_t time = std::chrono::floor<std::chrono::seconds>(at).time_since_epoch().count();
-    std::tm local{};
-    benchmark::DoNotOptimize(localtime_r(&time, &local));
-    benchmark::DoNotOptimize(local);
-}
 
 template <typename Operation>
 SteadyClock::duration timeOfTurn(Instant start, Operation operation) {
@@ -45,7 +37,7 @@ void compare(benchmark::State& state, const char* zone, Operation operation) {
     SteadyClock::duration operationTime{};
     Instant at = noon;
     for (auto _ : state) {
-        zoneTime += timeOfTurn(at, readZone);
+        zoneTime += timeOfTurn(at, bench::lookUpZone);
         const auto turn = timeOfTurn(at, operation);
         operationTime += turn;
         state.SetIterationTime(std::chrono::duration<double>(turn).count()); // of a whole turn

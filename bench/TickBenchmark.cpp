@@ -5,6 +5,7 @@
 #include "app/CalendarManager.h"
 #include "app/NotificationManager.h"
 #include "app/SoundManager.h"
+#include "bench/ZoneLookup.h"
 #include "tests/fakes/FakePlatform.h"
 #include "ui/MenuBarLabel.h"
 
@@ -13,24 +14,15 @@
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cstdlib>
-#include <ctime>
 
 namespace tambrelle {
 namespace {
 
 constexpr Instant noon = std::chrono::sys_days(std::chrono::year{2025} / 11 / 15) + std::chrono::hours(11);
 
-void lookUpZone() {
-    const std::time_t seconds = std::chrono::system_clock::to_time_t(noon);
-    std::tm civil{};
-    ::tzset();
-    ::localtime_r(&seconds, &civil);
-    benchmark::DoNotOptimize(civil);
-}
-
 void zoneLookup(benchmark::State& state) {
     for ([[maybe_unused]] const auto _ : state)
-        lookUpZone();
+        bench::lookUpZone(noon);
 }
 BENCHMARK(zoneLookup);
 
@@ -39,7 +31,7 @@ double lookupCost() {
     constexpr int repetitions = 20000;
     const auto begin = std::chrono::steady_clock::now();
     for (int i = 0; i < repetitions; ++i)
-        lookUpZone();
+        bench::lookUpZone(noon);
     return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - begin).count() /
            repetitions;
 }

@@ -37,16 +37,19 @@ extern const std::array<Event, 38> allEvents;
 /// The events of the date's month and day in table order, whatever the year; empty where there are none.
 std::vector<Event> events(const RevolutionaryDate& date);
 
-/// The beginning of 10 September 1977, the day of the last execution by guillotine, in the time zone that was
-/// the system's at the first call; later changes of the zone do not move it.
+/// The beginning of 10 September 1977, the day of the last execution by guillotine (of Hamida Djandoubi, at
+/// Les Baumettes in Marseille), in the time zone that was the system's at the first call; later changes of
+/// the zone do not move it.
 Instant lastGuillotineExecution();
 
 /// Whole local calendar days from the last execution to the instant, truncated toward zero.
 std::int64_t daysSinceLastGuillotine(Instant now);
 
-/// As above, until the present moment of the system's clock.
+/// As above, until the present moment of the system's clock, which is asked for here; who has a clock of its
+/// own passes that clock's instant instead.
 std::int64_t daysSinceLastGuillotine();
 
+/// What the Revolution cried, sang and wrote over its doors, in French, in no order of time.
 inline constexpr std::array<std::string_view, 10> slogans{
     "Liberté, Égalité, Fraternité",
     "Vivre libre ou mourir",

@@ -8,11 +8,14 @@ namespace tambrelle {
 
 constexpr std::int64_t secondsPerDay = 86'400;
 
+/// Whether a year of the proleptic Gregorian calendar has 366 days. Counted as astronomers do: 0 is the year
+/// before 1, and negative years come before it.
 constexpr bool isGregorianLeapYear(std::int64_t year) {
     return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
 }
 
-/// The days of a month 1 to 12 of the proleptic Gregorian calendar.
+/// How many days a month, 1 to 12, of the proleptic Gregorian calendar has: 28 to 31. Another month is the
+/// caller's error.
 constexpr std::int64_t daysInGregorianMonth(std::int64_t year, std::int64_t month) {
     constexpr std::array<std::int64_t, 12> lengths{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     return lengths[static_cast<std::size_t>(month - 1)] + (month == 2 && isGregorianLeapYear(year) ? 1 : 0);

@@ -16,6 +16,7 @@ struct Utf8Scalar {
 /// of length 1.
 Utf8Scalar firstScalar(std::string_view text);
 
+/// Appends `value`, a Unicode scalar up to U+10FFFF, in its one to four bytes.
 void appendScalar(std::string& text, char32_t value);
 
 } // namespace tambrelle

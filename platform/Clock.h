@@ -4,7 +4,8 @@
 
 namespace tambrelle {
 
-/// The one place that asks for now, so that a test can set the time.
+/// Where the application and the desktop's side of it ask for now, so that a test can set the time. Only the
+/// count of days in `content/` has a form that asks the system itself, for those who have no clock at hand.
 class Clock {
 public:
     virtual ~Clock() = default;

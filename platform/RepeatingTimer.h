@@ -10,7 +10,8 @@ class RepeatingTimer {
 public:
     virtual ~RepeatingTimer() = default;
 
-    /// Calls `action` every `interval` from now on; a timer already running is started anew.
+    /// Calls `action` every `interval`, which is positive, from now on; a timer already running is started
+    /// anew. `action` must not start the timer itself: it would replace itself while it runs.
     virtual void start(std::chrono::milliseconds interval, std::function<void()> action) = 0;
 };
 

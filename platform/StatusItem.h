@@ -28,10 +28,13 @@ public:
     virtual void present(const StatusItemContent& content) = 0;
 
 signals:
-    /// The user clicked the item; `position` is the place of the click in screen coordinates as far as the
-    /// desktop tells it.
+    /// The user clicked the item. `position` is the place of the click as far as the desktop tells it, in the
+    /// toolkit's coordinates of the whole desktop, logical pixels; a bar that tells it over the bus counts in
+    /// its own pixels, and they are taken as they come.
     void activated(QPoint position);
+    /// The user chose the preferences in the item's own menu.
     void preferencesRequested();
+    /// The user chose to quit in the item's own menu.
     void quitRequested();
 };
 

@@ -1,8 +1,10 @@
 #include "player/Playback.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <memory>
+#include <span>
 #include <thread>
 
 #include <pulse/simple.h>
@@ -39,13 +41,14 @@ void play(const Sound& sound, double volume, const std::function<bool()>& stop) 
     const Server server = connect();
     if (!server)
         return;
-    std::vector<float> samples = sound.samples;
-    std::ranges::transform(samples, samples.begin(),
-                           [gain = static_cast<float>(volume)](float sample) { return sample * gain; });
-    for (std::size_t at = 0; at < samples.size() && !stop(); at += portion) {
-        const std::size_t count = std::min(portion, samples.size() - at);
-        if (pa_simple_write(server.get(), &samples[at], count * sizeof(float), nullptr) < 0)
+    const auto gain = static_cast<float>(volume);
+    std::array<float, portion> scaled{};
+    for (std::span<const float> rest(sound.samples); !rest.empty() && !stop();) {
+        const auto next = rest.first(std::min(portion, rest.size()));
+        std::ranges::transform(next, scaled.begin(), [gain](float sample) { return sample * gain; });
+        if (pa_simple_write(server.get(), scaled.data(), next.size_bytes(), nullptr) < 0)
             return;
+        rest = rest.subspan(next.size());
     }
     if (stop())
         pa_simple_flush(server.get(), nullptr);

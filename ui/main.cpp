@@ -1,3 +1,4 @@
+#include "platform/Identity.h"
 #include "platform/freedesktop/ApplicationService.h"
 #include "platform/freedesktop/Display.h"
 #include "platform/freedesktop/EmojiFont.h"
@@ -22,7 +23,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tambrelle"));
     QApplication::setApplicationDisplayName(QStringLiteral("Tambrelle"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.tambrelle.Tambrelle"));
+    QGuiApplication::setDesktopFileName(Identity::applicationId);
     QApplication::setQuitOnLastWindowClosed(false);
     redrawAtEachScale();
 

@@ -1,5 +1,6 @@
 #include "platform/freedesktop/ApplicationService.h"
 
+#include "platform/Identity.h"
 #include "platform/freedesktop/SessionBus.h"
 
 #include <QDBusConnection>
@@ -14,7 +15,6 @@ namespace tambrelle {
 
 namespace {
 
-const QString applicationName = QStringLiteral("org.tambrelle.Tambrelle");
 const QString applicationPath = QStringLiteral("/org/tambrelle/Tambrelle");
 const QString applicationInterface = QStringLiteral("org.freedesktop.Application");
 
@@ -69,7 +69,7 @@ void ApplicationService::join() {
     QDBusMessage request = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
-    request.setArguments({applicationName, doNotQueue});
+    request.setArguments({Identity::applicationId, doNotQueue});
     auto* answer = new QDBusPendingCallWatcher(connection.asyncCall(request), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* call) {
         call->deleteLater();
@@ -91,7 +91,7 @@ void ApplicationService::settle() {
 
 void ApplicationService::deferToFirst() {
     settled = true;
-    QDBusMessage activate = QDBusMessage::createMethodCall(applicationName, applicationPath,
+    QDBusMessage activate = QDBusMessage::createMethodCall(Identity::applicationId, applicationPath,
                                                            applicationInterface, QStringLiteral("Activate"));
     activate.setArguments({QVariantMap()});
     auto* answer = new QDBusPendingCallWatcher(

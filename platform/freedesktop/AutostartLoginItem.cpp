@@ -1,5 +1,7 @@
 #include "platform/freedesktop/AutostartLoginItem.h"
 
+#include "platform/Identity.h"
+
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -46,7 +48,7 @@ QByteArray entryText(const QString& program) {
         QStringLiteral("Name=Tambrelle"),
         QStringLiteral("Comment=The French Republican calendar in the status bar"),
         execLine(program),
-        QStringLiteral("Icon=org.tambrelle.Tambrelle"),
+        QStringLiteral("Icon=") + Identity::applicationId,
         QStringLiteral("Terminal=false"),
         // The bar first, so that the item finds it; the program waits for a late one all the same.
         QStringLiteral("X-KDE-autostart-after=panel"),
@@ -63,7 +65,8 @@ bool switchesOff(const QString& line) {
 } // namespace
 
 AutostartLoginItem::AutostartLoginItem(const QString& folder, const QString& program)
-    : path(folder + QStringLiteral("/org.tambrelle.Tambrelle.desktop")), program(program) {}
+    : path(folder + QLatin1Char('/') + Identity::applicationId + QStringLiteral(".desktop")),
+      program(program) {}
 
 QString AutostartLoginItem::standardFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/PreferenceKeys.h"
 #include "core/MenuBarFormat.h"
 #include "ui/AppTheme.h"
 #include "ui/Refresher.h"
@@ -47,8 +48,8 @@ protected:
 private:
     /// What the owners hold, as the controls show it.
     struct Shown {
-        AppTheme theme = AppTheme::light;
-        MenuBarFormat format = MenuBarFormat::dateAndTime;
+        AppTheme theme = PreferenceKeys::appThemeOtherwise;
+        MenuBarFormat format = PreferenceKeys::menuBarFormatOtherwise;
         bool reminds = false;
         QTime reminder;
         bool chimes = false;

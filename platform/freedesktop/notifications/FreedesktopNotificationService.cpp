@@ -1,8 +1,11 @@
 #include "platform/freedesktop/notifications/FreedesktopNotificationService.h"
 
+#include "platform/Identity.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QStringList>
 #include <QVariantMap>
 
 #include <chrono>
@@ -50,7 +53,7 @@ bool isSilence(const QDBusError& error) {
 }
 
 QVariantMap hints(PresentationOptions options) {
-    QVariantMap hints{{QStringLiteral("desktop-entry"), QStringLiteral("org.tambrelle.Tambrelle")},
+    QVariantMap hints{{QStringLiteral("desktop-entry"), Identity::applicationId},
                       {QStringLiteral("category"), QStringLiteral("x-tambrelle.morning")},
                       {QStringLiteral("urgency"), QVariant::fromValue(normalUrgency)}};
     if (options.sound)
@@ -129,7 +132,7 @@ void FreedesktopNotificationService::notify(const Notification& notification, bo
     constexpr uint replacesNothing = 0;
     const QVariantList arguments{QStringLiteral("Tambrelle"),
                                  replacesNothing,
-                                 QStringLiteral("org.tambrelle.Tambrelle"),
+                                 Identity::applicationId,
                                  request.title,
                                  body,
                                  QStringList(),

@@ -5,12 +5,9 @@
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
 #include <QObject>
-#include <QStringList>
 
 #include <optional>
 #include <vector>
-
-class QDBusError;
 
 namespace tambrelle {
 

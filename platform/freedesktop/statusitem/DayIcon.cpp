@@ -1,20 +1,17 @@
 #include "platform/freedesktop/statusitem/DayIcon.h"
 
 #include "platform/freedesktop/statusitem/Digits.h"
+#include "platform/freedesktop/statusitem/LineStyle.h"
 
-#include <QColor>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRectF>
 
+#include <algorithm>
+
 namespace tambrelle {
 
 namespace {
-
-const QColor leafPaper(237, 232, 219);
-const QColor leafEdge(56, 41, 31);
-const QColor leafHead(140, 112, 71);
-const QColor leafInk(56, 41, 31);
 
 /// Shares of the icon's side.
 constexpr double margin = 0.04;
@@ -42,18 +39,18 @@ QImage dayIcon(std::int64_t day, int side) {
                             .adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2);
     QPainterPath outline;
     outline.addRoundedRect(leaf, unit * corner, unit * corner);
-    painter.fillPath(outline, leafPaper);
+    painter.fillPath(outline, LineStyle::paper);
     painter.setClipPath(outline);
-    painter.fillRect(QRectF(leaf.left(), leaf.top(), leaf.width(), unit * headHeight), leafHead);
+    painter.fillRect(QRectF(leaf.left(), leaf.top(), leaf.width(), unit * headHeight), LineStyle::edge);
     painter.setClipping(false);
-    painter.strokePath(outline, QPen(leafEdge, edge));
+    painter.strokePath(outline, QPen(LineStyle::ink, edge));
 
     const QRectF page = leaf.adjusted(0, unit * headHeight - edge, 0, 0);
     const double pen = std::max(thinnestPen, unit * penWidth);
     QRectF figures(0, 0, page.width(), unit * digitHeight);
     figures.moveCenter(page.center());
     painter.strokePath(numberStrokes(day, figures, pen),
-                       QPen(leafInk, pen, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+                       QPen(LineStyle::ink, pen, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     return image;
 }
 

@@ -16,6 +16,7 @@ public:
 
     /// Shows `text` and takes exactly the room that it needs.
     void setLine(const QString& text);
+    /// The colour of the text; emoji keep their own. Until it is called, that of the desktop's windows.
     void setInk(const QColor& color);
     /// Lays the line on a slip of paper of its own; without one it stands on whatever is behind the window.
     void setPaper(const QColor& ground, const QColor& edge);

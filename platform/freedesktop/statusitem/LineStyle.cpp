@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QString>
 
+#include <algorithm>
+
 namespace tambrelle::LineStyle {
 
 namespace {

@@ -10,6 +10,7 @@ class QString;
 /// How the line looks wherever the application draws it itself.
 namespace tambrelle::LineStyle {
 
+/// The panel's parchment, mahogany and brass.
 inline constexpr QColor paper(237, 232, 219);
 inline constexpr QColor ink(56, 41, 31);
 inline constexpr QColor edge(140, 112, 71);

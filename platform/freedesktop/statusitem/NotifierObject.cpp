@@ -1,5 +1,6 @@
 #include "platform/freedesktop/statusitem/NotifierObject.h"
 
+#include "platform/Identity.h"
 #include "platform/freedesktop/statusitem/BusReplies.h"
 
 #include <QDBusConnection>
@@ -101,7 +102,7 @@ QString NotifierObject::introspect(const QString& /*path*/) const {
 QVariantMap NotifierObject::properties() const {
     QVariantMap map{
         {QStringLiteral("Category"), QStringLiteral("ApplicationStatus")},
-        {QStringLiteral("Id"), QStringLiteral("org.tambrelle.Tambrelle")},
+        {QStringLiteral("Id"), Identity::applicationId},
         {QStringLiteral("Title"), content.line},
         {QStringLiteral("Status"), QStringLiteral("Active")},
         {QStringLiteral("WindowId"), 0},

@@ -9,7 +9,6 @@
 #include <QCursor>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDir>
 #include <QStandardPaths>
 #include <QTimer>

@@ -4,8 +4,6 @@
 #include <QObject>
 #include <QString>
 
-#include <functional>
-
 class QDBusServiceWatcher;
 
 namespace tambrelle {

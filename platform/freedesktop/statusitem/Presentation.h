@@ -18,6 +18,7 @@ public:
     virtual void present(const StatusItemContent& content) = 0;
 
 signals:
+    /// As StatusItem has them.
     void activated(QPoint position);
     void preferencesRequested();
     void quitRequested();
