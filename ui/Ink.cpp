@@ -34,8 +34,8 @@ const std::array<InkRow, 12>& inks() {
     static const std::array<InkRow, 12> rows{{
         {Ink::background, QPalette::Window, Palette::parchment, Palette::mahogany},
         {Ink::primary, QPalette::WindowText, black(0.85), Palette::nightInk},
-        // A desktop's usual 50, 26 and 10 % give type of 10 pixels 3.8:1, 1.9:1 and 1.2:1 on these grounds. The
-        // faintest here is at 4.5:1, the contrast that WCAG 2 (1.4.3) asks for small text.
+        // A desktop's usual 50, 26 and 10 % give type of 10 pixels 3.8:1, 1.9:1 and 1.2:1 on these grounds.
+        // The faintest here is at 4.5:1, the contrast that WCAG 2 (1.4.3) asks for small text.
         {Ink::secondary, QPalette::Text, black(0.64), white(0.58)},
         {Ink::tertiary, QPalette::PlaceholderText, black(0.59), white(0.53)},
         {Ink::quaternary, QPalette::Mid, black(0.55), white(0.49)},
