@@ -1,9 +1,9 @@
 #!/usr/bin/python3
 """Every screen as a screen reader and a keyboard find it: no control without a name, no text without words, everything
-within reach of the keyboard and in the order in which it is read; also with large text, and at rest where the user asked
-for rest."""
+within reach of the keyboard and in the order in which it is read; also with large text."""
 
 from harness import Late, PanelTest, main, until
+from harness.eyes import panel
 
 CONTROLS = {"push button", "toggle button", "check box", "combo box", "spin box", "radio button", "slider", "entry"}
 TEXTS = {"label", "static", "text"}
@@ -94,13 +94,31 @@ class Walk(PanelTest):
         self.assert_keyboard_reaches(self.assert_speaks())
 
     def test_large_text(self):
-        """Twice the size, as the desktop tells the toolkit: everything is there and on the screen."""
-        self.start(environment={"QT_FONT_DPI": "144"})
+        """Half as large again, where the desktop enlarges everything, and where it enlarges only its text: all is there, on the
+        screen, and larger."""
+        enlarged = {"QT_FONT_DPI": "144"}
+        usual, usual_label = self.sizes({})
+        everything, label = self.sizes(enlarged)
+        self.assertAlmostEqual(everything.width, 1.5 * usual.width, delta=1)
+        self.assertEqual(label, usual_label, "told in the toolkit's own pixels, which have become larger")
+        text, label = self.sizes({**enlarged, "QT_ENABLE_HIGHDPI_SCALING": "0"})
+        self.assertAlmostEqual(text.width, 1.5 * usual.width, delta=1)
+        self.assertAlmostEqual(label, 1.5 * usual_label, delta=2)
+
+    def sizes(self, environment):
+        """The panel's place on the screen, and the height of one of its texts."""
+        self.line = None
+        self.start(environment=environment)
         self.open_panel()
         self.assert_speaks()
+        opened = panel(self.desktop, self.program)
+        self.assertTrue(0 <= opened.x and opened.x + opened.width <= 1280 and 0 <= opened.y
+                        and opened.y + opened.height <= 720, opened)
         for name in ("Previous day", "Next day", "Toggle chime", "Copy", "Preferences", "Quit"):
-            x, y, width, height = self.program.node("push button", name).extents
-            self.assertTrue(0 <= x and x + width <= 1280 and 0 <= y and y + height <= 720, f"{name}: {x}, {y}")
+            self.program.node("push button", name)
+        _x, _y, _width, height = self.program.node(name="Decimal Time").extents
+        self.program.stop()
+        return opened, height
 
 
 if __name__ == "__main__":

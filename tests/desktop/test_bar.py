@@ -2,10 +2,8 @@
 """The line in a bar that takes items or docks windows, and what happens when that bar ends and comes back."""
 
 from harness import DesktopTest, main, until
+from harness.moments import LINE, NOON, TWO_TICKS
 
-NOON = "2025-11-15 12:00:00"
-LINE = "🌫️ 23 Brumaire · Tridi · 5:00"
-TWO_TICKS = 2 * 0.864
 BACK_WITHIN = 2.0
 MOST_AIR = 16  # pixels, left and right together
 

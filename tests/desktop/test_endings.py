@@ -6,13 +6,13 @@ import signal
 import time
 
 from harness import PanelTest, main, until
+from harness.preferences import NO_NOTIFICATIONS
+from harness.services import PLAYER, start_sound_server
 
 BEFORE_THREE_CLOCK = "2025-11-15 07:11:57"
 BEFORE_THREE = "🌫️ 23 Brumaire · Tridi · 2:99"
-PLAYER = "tambrelle-playe"   # the kernel keeps 15 bytes of a command's name
 NAME = "org.tambrelle.Tambrelle"
 A_SECOND = 1.0
-NO_NOTIFICATIONS = {"notificationsConfigured": "true", "notificationsEnabled": "false"}
 
 
 class Ending(PanelTest):
@@ -40,10 +40,7 @@ class Ending(PanelTest):
         self.open_settings()
 
     def chime_sounding(self):
-        self.desktop.processes.start(
-            "pulseaudio", "pulseaudio", "--daemonize=no", "--exit-idle-time=-1", "-n", "-L", "module-native-protocol-unix",
-            "-L", "module-null-sink sink_name=test")
-        until("the sound server listens", (self.desktop.runtime / "pulse" / "native").exists)
+        start_sound_server(self.desktop)
         self.start(BEFORE_THREE_CLOCK, BEFORE_THREE, preferences=NO_NOTIFICATIONS)
         until("a player runs", lambda: self.desktop.processes.named(PLAYER))
 

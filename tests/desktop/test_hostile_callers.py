@@ -1,21 +1,18 @@
 #!/usr/bin/python3
 """Callers on the session bus who mean harm or know no better: everything that the program offers there, called with all
-that the bus lets through. A run prints its seed; TAMBRELLE_SEED gives one back."""
-
-import os
-import random
+that the bus lets through."""
 
 from gi.repository import Gio, GLib
 
 from harness import DesktopTest, main, until
 from harness.bus import Absent
-from harness.eyes import QUIET, panel
+from harness.chance import chance
+from harness.eyes import panel
+from harness.moments import LATER, LATER_LINE, LINE, NOON, TWO_TICKS
+from harness.preferences import QUIET
+from harness.processes import memory_kb
 
-NOON = "2025-11-15 12:00:00"
-LINE = "🌫️ 23 Brumaire · Tridi · 5:00"
-LATER, LATER_LINE = "2025-11-15 14:24:00", "🌫️ 23 Brumaire · Tridi · 6:00"
 APPLICATION, APPLICATION_PATH = "org.tambrelle.Tambrelle", "/org/tambrelle/Tambrelle"
-TWO_TICKS = 2 * 0.864
 GROWTH_KB = 24 * 1024   # what glyphs, pictures and the allocator's slack may come to; a leak of the arguments is more
 
 ITEM, MENU = "org.kde.StatusNotifierItem", "com.canonical.dbusmenu"
@@ -47,9 +44,8 @@ TEXTS = ("", "Title", "XAyatanaLabel", "label", "hovered", "opened", "preference
 class Caller:
     """Random values of D-Bus types."""
 
-    def __init__(self, seed):
-        self._random = random.Random(seed)
-        self.choose = self._random.choice
+    def __init__(self, random):
+        self.choose = random.choice
 
     def value(self, signature, depth=0):
         """A variant of one complete type."""
@@ -132,15 +128,12 @@ class HostileTest(DesktopTest):
         self.program.wait_for_title(line, 3 * TWO_TICKS)
 
     def resident_kb(self):
-        with open(f"/proc/{self.program.pid}/status", encoding="ascii") as status:
-            return next(int(line.split()[1]) for line in status if line.startswith("VmRSS"))
+        return memory_kb(self.program.pid)
 
 
 class Fuzz(HostileTest):
     def test_lives_through_whatever_is_called(self):
-        seed = int(os.environ.get("TAMBRELLE_SEED") or random.randrange(2**32))
-        print(f"TAMBRELLE_SEED={seed}", flush=True)
-        caller = Caller(seed)
+        caller = Caller(chance())
         paths = (self.item.path, "/MenuBar", APPLICATION_PATH, "/", "/org", "/MenuBar/0")
         calls = [(interface, member) for interface, members in METHODS.items() for member in members]
         self.burst(caller, paths, calls, 400)  # what is built once, fonts and the panel, is built
@@ -148,7 +141,7 @@ class Fuzz(HostileTest):
         for _ in range(4):
             self.burst(caller, paths, calls, 400)
             self.lives_and_ticks()
-        self.assertLess(self.resident_kb() - before, GROWTH_KB, f"seed {seed}")
+        self.assertLess(self.resident_kb() - before, GROWTH_KB)
 
     def burst(self, caller, paths, calls, count):
         for number in range(count):

@@ -2,18 +2,17 @@
 """The line itself, as a screen reader finds it in the floating label of a desktop without a bar."""
 
 from harness import DesktopTest, main, until
+from harness.moments import LATER, LATER_LINE, LINE, NOON, TWO_TICKS
 
-NOON = "2025-11-15 12:00:00"
-TWO_TICKS = 2 * 0.864
 
 
 class Line(DesktopTest):
     def test_reads_today_and_the_decimal_time(self):
         self.desktop.clock.set(NOON)
-        self.start_program().wait_for_text("🌫️ 23 Brumaire · Tridi · 5:00")
+        self.start_program().wait_for_text(LINE)
 
     def test_has_each_stored_format(self):
-        for stored, line in (("dateAndTime", "🌫️ 23 Brumaire · Tridi · 5:00"), ("date", "🌫️ 23 Brum."),
+        for stored, line in (("dateAndTime", LINE), ("date", "🌫️ 23 Brum."),
                              ("decimalTime", "🌫️ 5:00"), ("dayNumber", "🌫️ 23")):
             with self.subTest(stored=stored):
                 self.desktop.clock.set(NOON)
@@ -26,21 +25,21 @@ class Line(DesktopTest):
         self.desktop.clock.set("2025-11-15 11:59:58")
         program = self.start_program()
         program.wait_for_text("🌫️ 23 Brumaire · Tridi · 4:99")
-        program.wait_for_text("🌫️ 23 Brumaire · Tridi · 5:00", limit=4)
+        program.wait_for_text(LINE, limit=4)
 
     def test_follows_the_clock_within_two_ticks(self):
         self.desktop.clock.set(NOON)
         program = self.start_program()
-        program.wait_for_text("🌫️ 23 Brumaire · Tridi · 5:00")
+        program.wait_for_text(LINE)
         for clock, line in (
-                ("2025-11-15 14:24:00", "🌫️ 23 Brumaire · Tridi · 6:00"),           # hours on
+                (LATER, LATER_LINE),                                                # hours on
                 ("2025-11-15 01:00:00", "🌫️ 23 Brumaire · Tridi · 0:41"),           # and back
                 ("2025-09-23 06:00:00", "🎉 5 Sansculottides · Quintidi · 2:50"),    # weeks back, the year's last day
                 ("2025-09-24 06:00:00", "🍇 1 Vendémiaire · Primidi · 2:50"),        # a day on, a new year
                 ("2035-11-15 12:00:00", "🌫️ 22 Brumaire · Duodi · 5:00"),            # ten years on
                 ("1792-09-22 12:00:00", "🍇 1 Vendémiaire · Primidi · 5:00"),        # the first day of all
                 ("1789-07-14 18:00:00", "🍇 1 Vendémiaire · Primidi · 7:50"),        # before it the date stands still
-                (NOON, "🌫️ 23 Brumaire · Tridi · 5:00")):
+                (NOON, LINE)):
             with self.subTest(clock=clock):
                 self.desktop.clock.set(clock)
                 program.wait_for_text(line, limit=TWO_TICKS)
@@ -75,9 +74,9 @@ class Zones(DesktopTest):
         self.lives_through("Europe/Paris", "2025-03-30 01:59:58", "🌱 0:83", "🌱 1:25")  # 02:00 becomes 03:00
 
     def test_a_zone_that_does_not_exist_is_utc(self):
-        self.desktop.clock.set("2025-11-15 12:00:00", zone="UTC")
+        self.desktop.clock.set(NOON, zone="UTC")
         program = self.start_program(environment={"TZ": "Atlantis/Poseidonis"})
-        program.wait_for_text("🌫️ 23 Brumaire · Tridi · 5:00")
+        program.wait_for_text(LINE)
 
 
 if __name__ == "__main__":

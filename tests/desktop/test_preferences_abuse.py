@@ -5,8 +5,8 @@ import os
 import random
 
 from harness import PanelTest, main
+from harness.processes import memory_kb
 
-LINE = "🌫️ 23 Brumaire · Tridi · 5:00"
 MEGABYTE = 1 << 20
 # A program that has read the whole of the largest file has at least this much more.
 MOST_MEMORY_KB = 90 * 1024
@@ -18,15 +18,10 @@ class PreferencesAbuse(PanelTest):
         file.parent.mkdir(exist_ok=True)
         return file
 
-    @staticmethod
-    def resident_kb(pid):
-        with open(f"/proc/{pid}/status", encoding="utf-8") as status:
-            return next(int(line.split()[1]) for line in status if line.startswith("VmHWM:"))
-
     def counts_as_empty_and_is_replaced(self, content):
         self.file().write_bytes(content)
         program = self.start()
-        self.assertLess(self.resident_kb(program.pid), MOST_MEMORY_KB)
+        self.assertLess(memory_kb(program.pid, "VmHWM"), MOST_MEMORY_KB)
         # The first launch stores what it begins with, and sets the strange file aside.
         self.preference_becomes("soundEnabled=true")
         self.assertLess(self.file().stat().st_size, 1000)

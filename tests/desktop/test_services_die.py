@@ -2,59 +2,40 @@
 """The services beside the program are killed again and again at random moments: it stays, and nothing comes twice."""
 
 import datetime
-import json
 import os
-import pathlib
 import signal
 import time
 
 from harness import DesktopTest, main, until
 from harness.bus import Bus
 from harness.chance import chance
+from harness.moments import LATER, LATER_LINE, LINE, NOON
+from harness.preferences import NO_NOTIFICATIONS, QUIET
+from harness.processes import children_of, faults_of_ended_children
+from harness.services import PLAYER, NotificationRecorder, start_sound_server
 
 TIMES = 100
-NOON = "2025-11-15 12:00:00"
-LINE = "🌫️ 23 Brumaire · Tridi · 5:00"
-NOTIFICATIONS = "org.freedesktop.Notifications"
-SILENT = {"hasLaunchedBefore": "true", "soundEnabled": "false", "notificationsConfigured": "true",
-          "notificationsEnabled": "true", "notificationHour": "8", "notificationMinute": "0"}
-NO_NOTIFICATIONS = {"notificationsConfigured": "true", "notificationsEnabled": "false"}
-PLAYER = "tambrelle-playe"   # the kernel keeps 15 bytes of a command's name
+SILENT = {**QUIET, "notificationsEnabled": "true", "notificationHour": "8", "notificationMinute": "0"}
 
 
 class ServicesDie(DesktopTest):
     limit = 200
 
-    def children(self, program):
-        return pathlib.Path(f"/proc/{program.pid}/task/{program.pid}/children").read_text().split()
-
 
 class ServicesWithNotifications(ServicesDie):
-    @property
-    def record(self):
-        return self.desktop.directory / "notifications"
-
-    def start_server(self):
-        script = pathlib.Path(__file__).with_name("notification_server.py")
-        copy = self.desktop.directory / script.name
-        copy.write_bytes(script.read_bytes())
-        server = self.desktop.processes.start("notification-server", "/usr/bin/python3", "-B", copy, self.record)
-        until("the notification service is there", lambda: self.desktop.bus.has_owner(NOTIFICATIONS))
-        return server
-
-    def titles(self):
-        if not self.record.exists():
-            return []
-        return [json.loads(line)["summary"] for line in self.record.read_text(encoding="utf-8").splitlines()]
+    def setUp(self):
+        super().setUp()
+        self.recorder = NotificationRecorder(self.desktop)
+        self.start_server, self.titles = self.recorder.start, self.recorder.titles
 
 
 class Notifications(ServicesWithNotifications):
     def end_all_servers(self):
         """The one of ours, and those that the bus may start when the program asks for one."""
         def none_is_left():
-            if not self.desktop.bus.has_owner(NOTIFICATIONS):
+            if not self.desktop.bus.has_owner(NotificationRecorder.NAME):
                 return True
-            os.kill(self.desktop.bus.pid_of(NOTIFICATIONS), signal.SIGKILL)
+            os.kill(self.desktop.bus.pid_of(NotificationRecorder.NAME), signal.SIGKILL)
             return False
         until("no notification service is left", none_is_left)
 
@@ -90,22 +71,15 @@ class Notifications(ServicesWithNotifications):
 
 
 class Sound(ServicesDie):
-    def start_server(self):
-        socket = self.desktop.runtime / "pulse" / "native"
-        server = self.desktop.processes.start(
-            "pulseaudio", "pulseaudio", "--daemonize=no", "--exit-idle-time=-1", "-n", "-L", "module-native-protocol-unix",
-            "-L", "module-null-sink sink_name=test")
-        until("the sound server listens", socket.exists)
-        return server
-
     def test_a_hundred_chimes_on_a_dying_server(self):
         random = chance()
         self.desktop.clock.set(NOON)
         program = self.start_program(preferences=NO_NOTIFICATIONS)
         program.wait_for_text(LINE)
+        before = faults_of_ended_children(program.pid)
         hour = 5
         for _turn in range(TIMES):
-            server = self.start_server()
+            server = start_sound_server(self.desktop)
             # An hour later, the clock starts a chime with its next tick.
             hour = hour % 9 + 1
             self.desktop.clock.set(f"2025-11-15 {hour * 144 // 60:02}:{hour * 144 % 60:02}:01")
@@ -115,7 +89,8 @@ class Sound(ServicesDie):
                 left.unlink()
             program.must_run()
         until("no player is left", lambda: not self.desktop.processes.named(PLAYER), 15)
-        until("no child is left", lambda: not self.children(program), 5)
+        self.assertGreater(faults_of_ended_children(program.pid), before, "no player has ever run")
+        until("no child is left", lambda: not children_of(program.pid), 5)
         self.desktop.clock.set("2025-11-15 12:00:01")
         program.wait_for_text(LINE)
         self.assertEqual(program.output(), "")
@@ -126,7 +101,7 @@ class TheBar(ServicesDie):
         random = chance()
         host = self.desktop.host
         self.desktop.clock.set(NOON)
-        program = self.start_program(preferences={**SILENT, "notificationsEnabled": "false"})
+        program = self.start_program(preferences=QUIET)
         until("it is docked", lambda: self.desktop.docked_windows(program))
         for _turn in range(TIMES):
             time.sleep(random.uniform(0, 0.3))
@@ -137,8 +112,8 @@ class TheBar(ServicesDie):
         host.wait_for_bar(self.desktop)
         until("it is docked again", lambda: len(self.desktop.docked_windows(program)) == 1, 15)
         self.assertEqual(len(self.desktop.x11.windows_of(program.pid)), 1, "a window is left behind")
-        self.desktop.clock.set("2025-11-15 14:24:00")
-        program.wait_for_text("🌫️ 23 Brumaire · Tridi · 6:00", 5)
+        self.desktop.clock.set(LATER)
+        program.wait_for_text(LATER_LINE, 5)
         # The X server gives the window back to the root when the tray dies, which the toolkit remarks upon.
         remarks = [line for line in program.output().splitlines() if not line.startswith("qt.qpa.xcb: internal error")]
         self.assertEqual(remarks, [])

@@ -1,4 +1,4 @@
-// A simulated life of the program, tick by tick. The seed is printed; TAMBRELLE_SOAK_SEED gives it back, and
+// A simulated life of the program, tick by tick. The seed is printed; TAMBRELLE_SEED gives it back, and
 // TAMBRELLE_SOAK_TICKS makes a life longer or shorter.
 
 #include "tests/soak/HeapUse.h"
@@ -28,7 +28,7 @@ constexpr std::int64_t settlingShare = 10;
 constexpr std::size_t allowedGrowth = std::size_t{64} * 1024;
 
 std::uint64_t chosenSeed() {
-    if (const char* given = std::getenv("TAMBRELLE_SOAK_SEED"))
+    if (const char* given = std::getenv("TAMBRELLE_SEED"))
         return std::strtoull(given, nullptr, 10);
     return std::random_device{}();
 }
@@ -50,7 +50,7 @@ void print(const Tally& tally) {
 Tally live(std::int64_t ticks) {
     const test::ScopedTimeZone zone("UTC");
     const std::uint64_t seed = chosenSeed();
-    std::cout << "TAMBRELLE_SOAK_SEED=" << seed << '\n';
+    std::cout << "TAMBRELLE_SEED=" << seed << '\n';
     Life life(seed);
     std::size_t settled = 0;
     try {
@@ -60,7 +60,7 @@ Tally live(std::int64_t ticks) {
                 settled = heapUse();
         }
     } catch (const Violation& violation) {
-        ADD_FAILURE() << violation.what() << "\nTAMBRELLE_SOAK_SEED=" << seed << ", " << life.whereabouts();
+        ADD_FAILURE() << violation.what() << "\nTAMBRELLE_SEED=" << seed << ", " << life.whereabouts();
         return life.tally();
     }
     const std::size_t last = heapUse();

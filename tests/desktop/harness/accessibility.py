@@ -39,10 +39,6 @@ class Node:
         return self.bus.get(self.service, self.path, ACCESSIBLE, "Name")
 
     @property
-    def description(self):
-        return self.bus.get(self.service, self.path, ACCESSIBLE, "Description")
-
-    @property
     def role(self):
         return self._call(ACCESSIBLE, "GetRoleName")
 

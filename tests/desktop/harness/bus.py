@@ -84,9 +84,6 @@ class Bus:
     def has_owner(self, name):
         return self._ask_daemon("NameHasOwner", name)
 
-    def owner(self, name):
-        return self._ask_daemon("GetNameOwner", name)
-
     def pid_of(self, name):
         return self._ask_daemon("GetConnectionUnixProcessID", name)
 

@@ -12,6 +12,10 @@ from .hosts import HOSTS, host_named
 
 SKIPPED = 77  # what ctest takes for "skipped"
 
+MOUNTS = "mounts of a process's own"
+# What a machine may lack although all packages are installed: a container may forbid it.
+MAY_BE_LACKING = {MOUNTS}
+
 
 class OutOfTime(AssertionError):
     """A test's hard limit."""
@@ -51,6 +55,18 @@ class DesktopTest(unittest.TestCase):
             self.fail("no program given: --program PATH or TAMBRELLE_PROGRAM")
         return self.desktop.start_program(self.program_path, *arguments, **options)
 
+    def end_for_lack_of(self, what, reason):
+        """Skips the test, or fails it where TAMBRELLE_BARS says that everything has been installed."""
+        print(f"lacking here: {what}: {reason}", flush=True)
+        if os.environ.get("TAMBRELLE_BARS") and what not in MAY_BE_LACKING:
+            self.fail(reason)
+        self.skipTest(reason)
+
+    def require_mounts(self, mount):
+        """That a program can be started with `mount`, a MountOfOnesOwn."""
+        if reason := mount.obstacle():
+            self.end_for_lack_of(MOUNTS, reason)
+
     def _callTestMethod(self, method):
         try:
             return super()._callTestMethod(method)
@@ -87,6 +103,7 @@ def require_host(test, name):
     if not missing:
         return
     reason = f"the host {name} needs {', '.join(missing)}"
+    print(f"lacking here: {reason}", flush=True)
     if name in required_hosts():
         test.fail(reason)
     test.skipTest(reason)

@@ -33,13 +33,6 @@ class Clock:
         os.replace(new, self._file)
         self._active = True
 
-    def now(self):
-        """Seconds since 1970 by this clock."""
-        return time.time() + (float(self._file.read_text()) if self._active else 0.0)
-
-    def advance(self, seconds):
-        self.shift_to(self.now() + seconds)
-
     def environment(self):
         """What the program needs to see this clock; nothing while it was never set."""
         if not self._active:

@@ -14,7 +14,6 @@ from .item import item_of
 from .picture import Picture
 from .processes import Processes
 from .program import Program
-from .waiting import until
 from .x11 import Display
 
 
@@ -212,6 +211,3 @@ class Desktop:
     def clipboard(self):
         """The clipboard's text, empty where nobody offers any."""
         return self.processes.run("xclip", "-o", "-selection", "clipboard", check=False).decode()
-
-    def wait_for_item(self, program, limit=10.0):
-        return until("the program's item is registered", lambda: self.item_of(program), limit)

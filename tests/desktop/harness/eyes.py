@@ -4,10 +4,12 @@ back. What else moves meanwhile, a bar's own clock for example, does not come ba
 import dataclasses
 
 from .hosts import DOCKED, FLOATING, ICON, LABEL, PICTURE
+from .moments import LINE, NOON
+from .preferences import QUIET
 from .waiting import until
 
 # Two lines of one length that differ in the day's number, the weekday and the whole time.
-ONE_DAY = ("2025-11-15 12:00:00", "🌫️ 23 Brumaire · Tridi · 5:00")
+ONE_DAY = (NOON, LINE)
 OTHER_DAY = ("2025-11-14 16:20:00", "🌫️ 22 Brumaire · Duodi · 6:80")
 
 
@@ -102,9 +104,6 @@ def what_changed(pictures, area, but=()):
 # characters, in the smallest of the bars' fonts 140 pixels, and never more than one row of text.
 NARROWEST, LOWEST, HIGHEST = 130, 5, 26
 FAINTEST = 100
-# Neither notifications nor chimes. The first two keys say that the other two were chosen.
-QUIET = {"hasLaunchedBefore": "true", "notificationsConfigured": "true", "soundEnabled": "false",
-         "notificationsEnabled": "false"}
 
 PANEL_HEIGHT = 250  # no other window of the program is as high
 

@@ -1,10 +1,8 @@
 """Test cases that use the panel and the settings window as a person does: by clicks, keys and what a screen reader reads."""
 
 from .case import DesktopTest
+from .moments import LINE, NOON
 from .waiting import until
-
-NOON = "2025-11-15 12:00:00"
-LINE = "🌫️ 23 Brumaire · Tridi · 5:00"
 
 
 class PanelTest(DesktopTest):

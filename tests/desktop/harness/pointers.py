@@ -24,11 +24,6 @@ class XPointer:
     def release(self, button=1):
         self._run("xdotool", "mouseup", button)
 
-    def scroll(self, steps):
-        """Steps down, or up where negative."""
-        if steps:
-            self._run("xdotool", "click", "--repeat", abs(steps), 5 if steps > 0 else 4)
-
 
 class VirtualPointer:
     """sway has no pointer of its own when headless: a small client holds a virtual one and takes commands."""
@@ -63,9 +58,6 @@ class VirtualPointer:
 
     def release(self, button=1):
         self._tell(f"release {self._BUTTONS[button]}")
-
-    def scroll(self, steps):
-        self._tell(f"scroll {steps}")
 
 
 class ShellPointer:
@@ -106,9 +98,3 @@ class ShellPointer:
 
     def release(self, button=1):
         self.evaluate(f"{self._DEVICE}.notify_button({self._NOW}, {button}, 0); 1")
-
-    def scroll(self, steps):
-        direction = "DOWN" if steps > 0 else "UP"
-        for _ in range(abs(steps)):
-            self.evaluate(f"{self._DEVICE}.notify_discrete_scroll({self._NOW}, "
-                          f"imports.gi.Clutter.ScrollDirection.{direction}, 0); 1")

@@ -3,27 +3,19 @@
 import os
 import shutil
 
+from .mounts import MountOfOnesOwn
+
 ETC = "/etc"
 
 
-class EtcOfOnesOwn:
+class EtcOfOnesOwn(MountOfOnesOwn):
     """Put `prefix` before a command to run it with this copy of /etc in the place of the true one."""
 
     def __init__(self, desktop):
-        self._desktop = desktop
         self._copy = desktop.directory / "etc"
         self._copy.mkdir()
         self._copy_readable(ETC, self._copy)
-        namespaces = ["--mount"] if os.geteuid() == 0 else ["--user", "--map-current-user", "--keep-caps", "--mount"]
-        self.prefix = ["unshare", *namespaces, "--propagation", "private", "sh", "-c",
-                       f'mount --bind "{self._copy}" {ETC} && exec "$@"', "sh"]
-
-    def obstacle(self):
-        """Why this can't be done here, or None."""
-        attempt = self._desktop.processes.start("unshare", *self.prefix, "true")
-        if attempt.wait() == 0:
-            return None
-        return f"no mount namespace of one's own here: {attempt.output().strip()}"
+        super().__init__(desktop, f'mount --bind "{self._copy}" {ETC}')
 
     def set_zone(self, name):
         """As a system's tools do it: a new link, renamed into the place of the old one."""

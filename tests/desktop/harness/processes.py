@@ -128,3 +128,26 @@ class Processes:
         self._started.clear()
         self._guard.stdin.close()
         self._guard.wait(20)
+
+
+def children_of(pid):
+    """The pids of a process's children, those that have ended and wait to be asked for included."""
+    return [int(child) for child in pathlib.Path(f"/proc/{pid}/task/{pid}/children").read_text().split()]
+
+
+def memory_kb(pid, field="VmRSS"):
+    """A figure of /proc/PID/status: VmRSS, what lies in memory now, or VmHWM, the most that did."""
+    status = pathlib.Path(f"/proc/{pid}/status").read_text(encoding="utf-8")
+    return next(int(line.split()[1]) for line in status.splitlines() if line.startswith(f"{field}:"))
+
+
+def faults_of_ended_children(pid):
+    """Grows with every child that has ended and been waited for, however soon: each has touched memory."""
+    return int(pathlib.Path(f"/proc/{pid}/stat").read_text().rpartition(")")[2].split()[8])
+
+
+def wakes(pid):
+    """How often the process's main thread has gone to sleep of its own accord, which its event loop does after each
+    turn."""
+    status = pathlib.Path(f"/proc/{pid}/task/{pid}/status").read_text(encoding="utf-8")
+    return next(int(line.split()[1]) for line in status.splitlines() if line.startswith("voluntary_ctxt_switches:"))

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 """virtual_pointer.py FILE: holds one virtual pointer (wlr-virtual-pointer) on $WAYLAND_DISPLAY and does the commands that are
-appended to FILE, one a line: move X Y WIDTH HEIGHT | press BUTTON | release BUTTON | scroll STEPS. After each it prints
+appended to FILE, one a line: move X Y WIDTH HEIGHT | press BUTTON | release BUTTON. After each it prints
 "done N". Only the standard library, because it speaks the few messages it needs itself."""
 
 import os
@@ -81,10 +81,6 @@ def main():
             wire.send(POINTER, 1, now(), *map(int, arguments))
         elif command in ("press", "release"):
             wire.send(POINTER, 2, now(), BUTTONS[arguments[0]], int(command == "press"))
-        elif command == "scroll":
-            steps = int(arguments[0])
-            wire.send(POINTER, 5, 0)                                # source: a wheel
-            wire.send(POINTER, 7, now(), 0, steps * 15 * 256, steps)
         wire.send(POINTER, 4)                                       # frame
 
     done = 0

@@ -1,6 +1,7 @@
 #!/usr/bin/python3
-"""notification_server.py FILE [--delay SECONDS] [--refuse] [--markup]: an org.freedesktop.Notifications that shows nothing
-and writes each Notify as a line of JSON to FILE. It answers late or with errors where asked to."""
+"""notification_server.py FILE [--delay SECONDS] [--refuse]: an org.freedesktop.Notifications that shows nothing
+and writes each Notify as a line of JSON to FILE. It answers late or with errors where asked to, and prints a line when it
+does."""
 
 import argparse
 import json
@@ -40,6 +41,7 @@ class Server:
             self.reply(invocation, answer)
 
     def reply(self, invocation, answer):
+        print("answered", flush=True)
         if self.options.refuse:
             invocation.return_dbus_error("org.example.Broken", "out of order")
         else:
@@ -48,7 +50,7 @@ class Server:
 
     def answer(self, method, arguments):
         if method == "GetCapabilities":
-            return GLib.Variant("(as)", (["body", "body-markup"] if self.options.markup else ["body"],))
+            return GLib.Variant("(as)", (["body"],))
         if method == "GetServerInformation":
             return GLib.Variant("(ssss)", ("recorder", "tests", "1", "1.2"))
         if method == "Notify":
@@ -64,7 +66,6 @@ def main():
     parser.add_argument("file")
     parser.add_argument("--delay", type=float, default=0)
     parser.add_argument("--refuse", action="store_true")
-    parser.add_argument("--markup", action="store_true")
     server = Server(parser.parse_args())
     loop = GLib.MainLoop()
     interface = Gio.DBusNodeInfo.new_for_xml(INTERFACE).interfaces[0]
