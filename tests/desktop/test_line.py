@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """The line itself, as a screen reader finds it in the floating label of a desktop without a bar."""
 
-from harness import DesktopTest, main, until
+from harness import DesktopTest, main
 from harness.moments import LATER, LATER_LINE, LINE, NOON, TWO_TICKS
 
 

@@ -1,7 +1,5 @@
 """Private message buses, and calls on them that never wait for ever."""
 
-import pathlib
-
 import gi
 
 gi.require_version("Gio", "2.0")
