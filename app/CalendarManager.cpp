@@ -62,15 +62,16 @@ CalendarManager::CalendarManager(const CalendarServices& services, Instant now)
 }
 
 void CalendarManager::startTimer() {
-    // The tick runs from the event loop, not from inside the timer, and not at all once the manager is gone.
     services.timer.start(tickInterval, [self = QPointer(this)] {
         if (self)
-            QMetaObject::invokeMethod(
-                self.data(), [manager = self.data()] { manager->update(); }, Qt::QueuedConnection);
+            self->update();
     });
 }
 
 void CalendarManager::update() {
+    // A tick that sent itself or its refresh through the event loop's queue would wake the program a second
+    // and a third time.
+    const ChangeGroup group(*this);
     const Instant now = services.clock.now();
     const auto [newDate, newTime] = RevolutionaryCalendar::toMoment(now);
     followDayChange(newDate);

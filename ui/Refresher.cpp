@@ -12,7 +12,17 @@ Refresher::Refresher(std::function<void()> refresh, QObject* parent)
     : QObject(parent), refresh(std::move(refresh)) {}
 
 void Refresher::observe(const ObservableObject& object) {
-    connect(&object, &ObservableObject::objectWillChange, this, &Refresher::request);
+    connect(&object, &ObservableObject::objectWillChange, this, [this, &object] {
+        if (object.isInGroup())
+            awaited = true;
+        else
+            request();
+    });
+    connect(&object, &ObservableObject::groupDidChange, this, [this] {
+        if (awaited)
+            run();
+        awaited = false;
+    });
 }
 
 void Refresher::setPaused(bool value) {

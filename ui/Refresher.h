@@ -8,8 +8,9 @@ namespace tambrelle {
 
 class ObservableObject;
 
-/// Turns the announcements of observed objects into one refresh on the next turn of the event loop, however
-/// many values changed meanwhile. While paused, for a view that nobody sees, it does nothing at all.
+/// Turns the announcements of observed objects into one refresh, however many values changed meanwhile: at
+/// the end of a group of changes, else on the next turn of the event loop. While paused, for a view that
+/// nobody sees, it does nothing at all.
 class Refresher final : public QObject {
     Q_OBJECT
 
@@ -27,6 +28,7 @@ private:
 
     std::function<void()> refresh;
     bool requested = false;
+    bool awaited = false; ///< a refresh at the end of the group under way
     bool paused = false;
 };
 

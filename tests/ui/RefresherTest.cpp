@@ -56,6 +56,30 @@ TEST_F(RefresherTest, ObservesSeveralObjectsWithOneRefresh) {
     EXPECT_EQ(refreshes, 2);
 }
 
+TEST_F(RefresherTest, RefreshesAtTheEndOfAGroupOfChanges) {
+    {
+        const ChangeGroup group(observed);
+        observed.value = 1;
+        {
+            const ChangeGroup partOfIt(observed);
+            observed.value = 2;
+        }
+        EXPECT_EQ(refreshes, 0);
+    }
+    EXPECT_EQ(refreshes, 1);
+    EXPECT_EQ(seen, 2);
+    test::runQueued();
+    EXPECT_EQ(refreshes, 1);
+    { const ChangeGroup empty(observed); }
+    EXPECT_EQ(refreshes, 1) << "nothing changed";
+    refresher.setPaused(true);
+    {
+        const ChangeGroup unseen(observed);
+        observed.value = 3;
+    }
+    EXPECT_EQ(refreshes, 1);
+}
+
 TEST_F(RefresherTest, DoesNothingWhilePaused) {
     refresher.setPaused(true);
     observed.value = 1;
