@@ -22,31 +22,6 @@ Path branch(Plate& plate, const BranchForm& f) {
     return curve;
 }
 
-std::vector<BranchLeaf> alternateLeaves(int count, double length, double width, double from, double to,
-                                        double angle) {
-    std::vector<BranchLeaf> leaves;
-    for (int k = 0; k < count; ++k) {
-        const double t = count > 1 ? k / static_cast<double>(count - 1) : 0.5;
-        const double turn = k + 1 == count ? 5 : (k % 2 == 0 ? -angle : angle);
-        leaves.push_back({from + (to - from) * t, turn, length * (k % 3 == 1 ? 0.9 : 1.0), width});
-    }
-    return leaves;
-}
-
-FruitAt hangingBall(double radius, Palette palette, double drop, double sideways, Palette stalk) {
-    return [=](Plate& p, Point at, double) {
-        const Point top = at + Point{sideways, drop};
-        const Point centre = top + Point{sideways * 0.1, radius * 0.9};
-        tube(p, {at, engraver::lerp(at, top, 0.5) + Point{sideways * 0.3, -2}, top}, {0.95, 1.25},
-             {.palette = stalk, .spacing = 2.2});
-        ball(p, centre, radius, {.palette = palette, .direction = -90});
-        p.stroke(
-            spline({top + Point{-radius * 0.34, -0.6}, top + Point{0, 1.2}, top + Point{radius * 0.34, -0.6}},
-                   6),
-            {.width = 0.9, .swell = 0.4, .fade = 0.4});
-    };
-}
-
 LatheSurface pome(Plate& plate, Point at, const PomeForm& f) {
     const Point way = direction(f.direction), side = rightOf(way);
     const Point top = at + way * f.stalk;

@@ -35,13 +35,6 @@ struct BranchForm {
 };
 /// Gives the branch's curve.
 Path branch(Plate& plate, const BranchForm& form);
-/// Leaves set alternately along a branch that lies across the plate, `count` of them.
-std::vector<BranchLeaf> alternateLeaves(int count, double length, double width, double from = 0.06,
-                                        double to = 1.0, double angle = 60);
-
-/// A stalked ball with the dimple of the stalk: cherry, currant, berry. `drop` units below the branch.
-FruitAt hangingBall(double radius, Palette palette, double drop, double sideways = 0,
-                    Palette stalk = palettes::stem);
 
 /// A fruit of turned shape with a stalk at its top and the remains of the flower below: apple, pear, quince,
 /// lemon.

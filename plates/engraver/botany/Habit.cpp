@@ -42,49 +42,6 @@ void foliageClump(Plate& plate, Point c, double rx, double ry, const Palette& pa
     }
 }
 
-void treeHabit(Plate& plate, Point foot, const HabitForm& f) {
-    tube(plate, {foot, foot + Point{1, -f.height * 0.4}, foot + Point{0, -f.height * 0.92}},
-         {f.trunk, f.trunk * 0.7, f.trunk * 0.25},
-         {.palette = f.bark, .spacing = 1.8, .coverage = 0.55, .rough = 0.10});
-    const double low = f.height * f.bole, high = f.height;
-    struct Clump {
-        double depth;
-        Point at;
-        double rx, ry;
-    };
-    std::vector<Clump> clumps;
-    const double size = f.crown.greatest() * f.clump;
-    if (f.tiers > 0) {
-        for (int k = 0; k < f.tiers; ++k) {
-            const double t = (k + 0.5) / f.tiers, y = low + (high - low) * t, w = f.crown(t);
-            for (const double x : {-0.62, 0.62, -0.1, 0.25})
-                clumps.push_back({t * -10 + plate.random.uniform(),
-                                  foot + Point{x * w, -y + plate.random.around(2)}, w * 0.46,
-                                  std::max(3.5, (high - low) / f.tiers * 0.30)});
-        }
-        std::stable_sort(clumps.begin(), clumps.end(),
-                         [](const Clump& a, const Clump& b) { return a.depth > b.depth; });
-    } else {
-        const int rows = std::max(4, static_cast<int>((high - low) / (size * 1.0)));
-        for (int k = 0; k < rows; ++k) {
-            const double t = (k + 0.4) / rows, y = low + (high - low) * t, w = f.crown(t);
-            const int across = std::max(1, static_cast<int>(w * 1.7 / size));
-            for (int j = 0; j < across; ++j) {
-                const double x = across > 1 ? (j / (across - 1.0) * 2 - 1) * 0.72 : 0;
-                const double r = std::min(size, w * 0.8 + 2) * plate.random.uniform(0.85, 1.1);
-                clumps.push_back({plate.random.uniform() + 0.9 * (1 - std::fabs(x)),
-                                  foot + Point{x * w + plate.random.around(2), -y + plate.random.around(3)},
-                                  r, r * 0.82});
-            }
-        }
-        std::stable_sort(clumps.begin(), clumps.end(),
-                         [](const Clump& a, const Clump& b) { return a.depth < b.depth; });
-    }
-    for (const Clump& c : clumps)
-        foliageClump(plate, c.at, c.rx, c.ry, f.palette, 2.6,
-                     0.07 * (c.at.x - foot.x) / std::max(f.crown.greatest(), 1.0));
-}
-
 void trunk(Plate& plate, Point foot, Point top, double r, const TrunkForm& f) {
     const Path s =
         tube(plate, {foot, lerp(foot, top, 0.5), top}, {r * 1.06, r, r * 0.96},

@@ -52,11 +52,7 @@ FlowerAt globes(const GlobeForm& form) {
         globeHead(p, at, degrees, form, scale);
     };
 }
-FlowerAt thistles(const ThistleForm& form) {
-    return [form](Plate& p, Point at, double degrees, double scale, int) {
-        thistleHead(p, at, degrees, form, scale);
-    };
-}
+
 FlowerAt berries(double radius, Palette palette, double squash) {
     return [=](Plate& p, Point at, double degrees, double scale, int) {
         ball(p, polar(at, degrees, radius * scale * squash * 0.8), radius * scale,

@@ -19,7 +19,6 @@ FlowerAt peas(double size, Palette palette, std::optional<Palette> wings = std::
 FlowerAt florets(double radius, Palette palette, int petals = 5);
 FlowerAt composites(const CompositeForm& form);
 FlowerAt globes(const GlobeForm& form);
-FlowerAt thistles(const ThistleForm& form);
 /// Plain berries or buds.
 FlowerAt berries(double radius, Palette palette, double squash = 1);
 

@@ -73,31 +73,4 @@ void capsule(Plate& plate, Point at, double degrees, const CapsuleForm& f) {
     plate.contour(rim, 0.8);
 }
 
-void husk(Plate& plate, Point at, double degrees, const HuskForm& f) {
-    Sheets sheets;
-    const Frame frame(at, f.tilt, degrees);
-    for (int k = 0; k < f.valves; ++k)
-        sheets.petal(frame, 360.0 * k / f.valves + 25,
-                     {.length = f.length,
-                      .width = f.width,
-                      .baseAngle = 25,
-                      .tipAngle = f.openness,
-                      .shape = {0.5, 0.9, 1, 0.8, 0.45, 0},
-                      .cup = 0.9,
-                      .radius = 2},
-                     plate.random);
-    sheets.engrave(plate, {.palettes = {Sheets::Style::Tint(f.inside, f.palette)}, .spacing = 1.7});
-    for (int k = 0; k < f.valves; ++k) {
-        const Point d = direction(360.0 * k / f.valves + 25);
-        for (int j = 0; j < f.prickles; ++j) {
-            const double u = 0.3 + 0.7 * (j + 0.5) / f.prickles,
-                         a = maths::radians(maths::lerp(25, f.openness, u));
-            const double r = f.length * u * maths::sin(a), z = f.length * u * maths::cos(a);
-            const Point p = frame.onPlate({d.x * r, d.y * r, z}),
-                        q = frame.onPlate({d.x * (r + 6), d.y * (r + 6), z - 3});
-            plate.stroke({p, lerp(p, q, 0.5), q}, {.width = 0.9, .swell = 0, .fade = 0.9, .wobble = 0});
-        }
-    }
-}
-
 } // namespace tambrelle::engraver

@@ -31,19 +31,4 @@ struct CapsuleForm {
 };
 void capsule(Plate& plate, Point at, double degrees, const CapsuleForm& form = {});
 
-/// Valves spread open like a star, base at `at`: beech husk, cotton boll, spindle, chestnut husk.
-struct HuskForm {
-    int valves = 4;
-    double length = 30;
-    double width = 12;
-    /// Degrees from the axis at the tips.
-    double openness = 55;
-    Palette palette = palettes::burr;
-    Palette inside = palettes::cream;
-    /// Along every valve.
-    int prickles = 0;
-    double tilt = 35;
-};
-void husk(Plate& plate, Point at, double degrees, const HuskForm& form = {});
-
 } // namespace tambrelle::engraver
