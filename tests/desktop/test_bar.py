@@ -1,10 +1,14 @@
 #!/usr/bin/python3
 """The line in a bar that takes items or docks windows, and what happens when that bar ends and comes back."""
 
+import pathlib
+import re
+
 from harness import DesktopTest, main, until
 from harness.moments import LINE, NOON, TWO_TICKS
 
 BACK_WITHIN = 2.0
+SAMPLES = 16
 MOST_AIR = 16  # pixels, left and right together
 
 
@@ -61,7 +65,39 @@ class Docked(DesktopTest):
                 program = self.start_program(preferences={"menuBarFormat": stored})
                 program.wait_for_text(line)
                 until("no more than padding is beside the text", lambda: 0 < self.air(program) <= MOST_AIR)
+                self.stands_still(program)
                 program.stop()
+
+    def test_sleeps_between_ticks(self):
+        self.desktop.clock.set("2025-11-15 11:59:50")
+        program = self.start_program()
+        program.wait_for_text("🌫️ 23 Brumaire · Tridi · 4:99")
+        self.stands_still(program)
+        before, switches = self.line_pixels(program), self.switches(program)
+        # Looked at from without: a question about its text would wake the program.
+        until("the decimal minute passes", lambda: self.line_pixels(program) != before, limit=12, every=0.2)
+        self.assertLess(self.switches(program) - switches, 60)
+
+    def line_pixels(self, program):
+        window, = self.desktop.docked_windows(program)
+        return self.desktop.picture().cropped(window.x, window.y, window.width, window.height).pixels
+
+    @staticmethod
+    def switches(program):
+        """How often the program's first thread has gone to sleep."""
+        status = pathlib.Path(f"/proc/{program.pid}/status").read_text()
+        return int(re.search(r"^voluntary_ctxt_switches:\s*(\d+)", status, re.MULTILINE)[1])
+
+    def stands_still(self, program):
+        """Bar and line have come to terms: for longer than a bar takes to lay out its items, nothing moves."""
+        seen = []
+
+        def still():
+            seen.append([(window.x, window.width, window.height) for window in self.desktop.docked_windows(program)])
+            return len(seen) >= SAMPLES and seen[-SAMPLES:] == SAMPLES * [seen[-1]]
+
+        until("the line stands still", still, every=0.1)
+        self.assertLessEqual(self.air(program), MOST_AIR)
 
     def air(self, program):
         """The columns of the line's window without ink, left and right of the text; 0 while it is not drawn."""

@@ -25,25 +25,26 @@ void DockedLinePresentation::present(const StatusItemContent& content) {
 }
 
 void DockedLinePresentation::judge(std::optional<QSize> granted) {
-    if (!granted || (granted->width() < needed.width() && !fitted)) {
-        emit refused();
-    } else if (granted->width() < needed.width()) {
-        // The row has become lower.
-        fitted = false;
-        setHeight(needed.height());
-    } else if (granted->width() > needed.width() && granted->height() > needed.height() && !fitted) {
+    const bool tooNarrow = !granted || granted->width() < needed.width();
+    if (!tooNarrow && fit == Fit::natural && granted->width() > needed.width() &&
+        granted->height() > needed.height()) {
         // This bar enlarges what is lower than its row, with its proportions. What is as tall has its own
-        // width.
-        fitted = true;
-        setHeight(granted->height());
+        // width, less what the bar loses in rounding.
+        fit = Fit::asTallAsTheRow;
+        setAir(granted->height() - needed.height(), 1);
+    } else if (tooNarrow && fit == Fit::asTallAsTheRow) {
+        // The row has become lower; and not a third time, lest bar and line go on correcting each other.
+        fit = Fit::given;
+        setAir(0, 0);
+    } else if (tooNarrow) {
+        emit refused();
     } else {
         adoptInk();
     }
 }
 
-void DockedLinePresentation::setHeight(int height) {
-    const int air = height - needed.height();
-    label.setContentsMargins(0, air / 2, 0, air - air / 2);
+void DockedLinePresentation::setAir(int vertical, int horizontal) {
+    label.setContentsMargins(0, vertical / 2, horizontal, vertical - vertical / 2);
     label.setLine(label.text());
     dock.settle();
 }

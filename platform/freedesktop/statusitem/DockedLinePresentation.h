@@ -18,14 +18,15 @@ public:
 
 private:
     void judge(std::optional<QSize> granted);
-    void setHeight(int height);
+    void setAir(int vertical, int horizontal);
     void adoptInk();
 
     const TrayManager& tray;
     LineLabel label;
     TrayDock dock;
-    QSize needed;        ///< By the line, logical pixels; the label's own size is whatever the bar makes it.
-    bool fitted = false; ///< The label was made as tall as the bar's row.
+    QSize needed; ///< By the line, logical pixels; the label's own size is whatever the bar makes it.
+    /// How tall the label is: as its text, as the bar's row, or as its text for good.
+    enum class Fit { natural, asTallAsTheRow, given } fit = Fit::natural;
 };
 
 } // namespace tambrelle
