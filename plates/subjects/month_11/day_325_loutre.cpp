@@ -49,7 +49,9 @@ static const Subject subject{
             for (const double height : {52.0, 74.0}) {
                 const double sway = height > 60 ? 5 : -5;
                 leaf(p,
-                     {{x, 289}, {x + sway, 289 - height * 0.35}, {x - sway * 0.4, 289 - height * 0.7},
+                     {{x, 289},
+                      {x + sway, 289 - height * 0.35},
+                      {x - sway * 0.4, 289 - height * 0.7},
                       {x + sway * 1.6, 289 - height}},
                      {.width = 2.8,
                       .shape = {0.7, 1, 1, 0.8, 0.5, 0},
