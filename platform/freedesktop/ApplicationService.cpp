@@ -1,6 +1,7 @@
 #include "platform/freedesktop/ApplicationService.h"
 
 #include "platform/Identity.h"
+#include "platform/freedesktop/BusMessages.h"
 #include "platform/freedesktop/SessionBus.h"
 
 #include <QDBusConnection>
@@ -20,8 +21,7 @@ const QString applicationInterface = QStringLiteral("org.freedesktop.Application
 
 constexpr std::chrono::milliseconds busPatience{1000};
 
-/// RequestName's flag and the answer that means that another has the name.
-constexpr uint doNotQueue = 4;
+/// RequestName's answer that another has the name.
 constexpr uint nameExists = 3;
 
 constexpr auto introspection = R"xml(
@@ -66,11 +66,8 @@ void ApplicationService::join() {
     QDBusConnection connection = bus.connection();
     // On the bus before its name is, so that whoever sees the name finds the object.
     connection.registerVirtualObject(applicationPath, this);
-    QDBusMessage request = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
-    request.setArguments({Identity::applicationId, doNotQueue});
-    auto* answer = new QDBusPendingCallWatcher(connection.asyncCall(request), this);
+    auto* answer =
+        new QDBusPendingCallWatcher(connection.asyncCall(requestName(Identity::applicationId)), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* call) {
         call->deleteLater();
         const QDBusPendingReply<uint> reply = *call;
@@ -113,8 +110,7 @@ bool ApplicationService::handleMessage(const QDBusMessage& message, const QDBusC
         return false;
     if (message.signature() != *signature) {
         if (message.isReplyRequired())
-            connection.send(message.createErrorReply(QDBusError::InvalidArgs,
-                                                     QStringLiteral("The arguments have other types")));
+            connection.send(invalidArguments(message));
         return true;
     }
     if (member == QLatin1String("Activate") || member == QLatin1String("Open")) {

@@ -34,7 +34,8 @@ PortalContrast::PortalContrast(const SessionBus& bus, QObject* parent)
 void PortalContrast::follow() {
     QDBusConnection connection = bus.connection();
     portals.setConnection(connection);
-    connection.connect(service, objectPath, interface, QStringLiteral("SettingChanged"), this,
+    // From any sender: to be given one by its name, the toolkit would ask the bus for its owner, and wait.
+    connection.connect(QString(), objectPath, interface, QStringLiteral("SettingChanged"), this,
                        SLOT(noteSetting(QDBusMessage)));
     ask();
 }

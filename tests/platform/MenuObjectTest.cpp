@@ -1,4 +1,5 @@
 #include "platform/freedesktop/statusitem/MenuObject.h"
+#include "platform/freedesktop/statusitem/MenuNode.h"
 
 #include "tests/platform/BusObject.h"
 #include "tests/support/Printers.h"
@@ -161,7 +162,8 @@ TEST_F(MenuObjectTest, PropertiesOfTheMenuAndOfItsEntries) {
 
 TEST_F(MenuObjectTest, WrongTypesAreAnError) {
     const QString invalid = QStringLiteral("org.freedesktop.DBus.Error.InvalidArgs");
-    for (const char* method : {"GetLayout", "GetGroupProperties", "GetProperty", "Event", "EventGroup"}) {
+    for (const char* method : {"GetLayout", "GetGroupProperties", "GetProperty", "Event", "EventGroup",
+                               "AboutToShow", "AboutToShowGroup"}) {
         EXPECT_EQ(bus.call(QString::fromLatin1(method), {}).errorName(), invalid) << method;
         EXPECT_EQ(bus.call(QString::fromLatin1(method), {QStringLiteral("x"), 1.5}).errorName(), invalid)
             << method;

@@ -5,6 +5,8 @@
 #include <QDBusPendingCall>
 #include <QFile>
 
+#include <csignal>
+
 namespace tambrelle::test {
 
 PrivateBus::PrivateBus() {
@@ -37,6 +39,10 @@ QDBusConnection PrivateBus::connect() {
     static int count = 0;
     connections.append(QStringLiteral("private-%1").arg(++count));
     return QDBusConnection::connectToBus(address, connections.last());
+}
+
+void PrivateBus::freeze() {
+    ::kill(static_cast<pid_t>(daemon.processId()), SIGSTOP);
 }
 
 QDBusMessage callAndWait(const QDBusConnection& connection, const QDBusMessage& message) {

@@ -25,6 +25,9 @@ public:
     /// A connection of its own, as of another program.
     [[nodiscard]] QDBusConnection connect();
 
+    /// The bus stands still: it takes what is sent and answers nothing.
+    void freeze();
+
 private:
     QTemporaryDir folder;
     QProcess daemon;

@@ -1,40 +1,14 @@
 #include "platform/freedesktop/statusitem/MenuObject.h"
 
-#include "platform/freedesktop/statusitem/BusReplies.h"
+#include "platform/freedesktop/BusMessages.h"
+#include "platform/freedesktop/statusitem/MenuNode.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusMetaType>
 #include <QDBusVariant>
 
 #include <array>
-
-namespace tambrelle {
-
-/// The pair of an entry's number and its properties that GetGroupProperties returns.
-struct MenuItemProperties {
-    int id = 0;
-    QVariantMap properties;
-};
-
-QDBusArgument& operator<<(QDBusArgument& argument, const MenuItemProperties& item) {
-    argument.beginStructure();
-    argument << item.id << item.properties;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, MenuItemProperties& item) {
-    argument.beginStructure();
-    argument >> item.id >> item.properties;
-    argument.endStructure();
-    return argument;
-}
-
-} // namespace tambrelle
-
-Q_DECLARE_METATYPE(tambrelle::MenuItemProperties)
 
 namespace tambrelle {
 
@@ -145,36 +119,8 @@ QList<int> clickedEntries(const QDBusArgument& events) {
 
 } // namespace
 
-QDBusArgument& operator<<(QDBusArgument& argument, const MenuNode& node) {
-    argument.beginStructure();
-    argument << node.id << node.properties;
-    argument.beginArray(QMetaType::fromType<QDBusVariant>());
-    for (const MenuNode& child : node.children)
-        argument << QDBusVariant(QVariant::fromValue(child));
-    argument.endArray();
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, MenuNode& node) {
-    argument.beginStructure();
-    argument >> node.id >> node.properties;
-    argument.beginArray();
-    while (!argument.atEnd()) {
-        QDBusVariant child;
-        argument >> child;
-        node.children.append(qdbus_cast<MenuNode>(child.variant()));
-    }
-    argument.endArray();
-    argument.endStructure();
-    return argument;
-}
-
 MenuObject::MenuObject(QObject* parent) : QDBusVirtualObject(parent) {
-    qDBusRegisterMetaType<MenuNode>();
-    qDBusRegisterMetaType<MenuItemProperties>();
-    qDBusRegisterMetaType<QList<MenuItemProperties>>();
-    qDBusRegisterMetaType<QList<int>>();
+    registerMenuTypes();
 }
 
 void MenuObject::setLine(const QString& text) {
@@ -207,10 +153,14 @@ QDBusMessage MenuObject::replyTo(const QDBusMessage& message) {
     if (member == QLatin1String("GetProperty"))
         return signature == QLatin1String("is") ? entryProperty(message) : invalidArguments(message);
     if (member == QLatin1String("AboutToShow"))
-        return message.createReply(line != shownLine);
-    if (member == QLatin1String("AboutToShowGroup"))
+        return signature == QLatin1String("i") ? message.createReply(line != shownLine)
+                                               : invalidArguments(message);
+    if (member == QLatin1String("AboutToShowGroup")) {
+        if (signature != QLatin1String("ai"))
+            return invalidArguments(message);
         return message.createReply({QVariant::fromValue(line != shownLine ? QList<int>{root} : QList<int>{}),
                                     QVariant::fromValue(QList<int>{})});
+    }
     if (member == QLatin1String("Event")) {
         if (signature != QLatin1String("isvu"))
             return invalidArguments(message);

@@ -1,23 +1,9 @@
 #pragma once
 
-#include <QDBusArgument>
 #include <QDBusVirtualObject>
-#include <QList>
-#include <QMetaType>
 #include <QString>
-#include <QVariantMap>
 
 namespace tambrelle {
-
-/// One entry of the item's menu as `com.canonical.dbusmenu` carries it, with its children.
-struct MenuNode {
-    int id = 0;
-    QVariantMap properties;
-    QList<MenuNode> children;
-};
-
-QDBusArgument& operator<<(QDBusArgument& argument, const MenuNode& node);
-const QDBusArgument& operator>>(const QDBusArgument& argument, MenuNode& node);
 
 /// The item's menu on the bus: the line itself, the panel, the preferences, and quit.
 class MenuObject final : public QDBusVirtualObject {
@@ -50,5 +36,3 @@ private:
 };
 
 } // namespace tambrelle
-
-Q_DECLARE_METATYPE(tambrelle::MenuNode)

@@ -1,7 +1,7 @@
 #include "platform/freedesktop/statusitem/NotifierObject.h"
 
 #include "platform/Identity.h"
-#include "platform/freedesktop/statusitem/BusReplies.h"
+#include "platform/freedesktop/BusMessages.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -1,5 +1,6 @@
 #include "platform/freedesktop/statusitem/NotifierPresentation.h"
 
+#include "platform/freedesktop/BusMessages.h"
 #include "platform/freedesktop/statusitem/DayIcon.h"
 #include "platform/freedesktop/statusitem/LineImage.h"
 #include "platform/freedesktop/statusitem/MenuObject.h"
@@ -38,14 +39,6 @@ QString freshServiceName() {
     return QStringLiteral("org.kde.StatusNotifierItem-%1-%2")
         .arg(QCoreApplication::applicationPid())
         .arg(++items);
-}
-
-QDBusMessage callToBus(const QString& method, const QVariantList& arguments) {
-    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-                                                       QStringLiteral("/org/freedesktop/DBus"),
-                                                       QStringLiteral("org.freedesktop.DBus"), method);
-    call.setArguments(arguments);
-    return call;
 }
 
 IconPixmaps squareIcon(std::int64_t day) {
@@ -123,9 +116,11 @@ void NotifierPresentation::claimName() {
     bus.registerVirtualObject(NotifierObject::path, item);
     if (appearance.style.menu)
         bus.registerVirtualObject(NotifierObject::menuPath, menu);
-    constexpr uint doNotQueue = 4;
-    auto* claim = new QDBusPendingCallWatcher(
-        bus.asyncCall(callToBus(QStringLiteral("RequestName"), {serviceName, doNotQueue})), this);
+    // From any sender: to be given one by its name, the toolkit would ask the bus for its owner, and wait.
+    bus.connect(QString(), NotifierWatcher::objectPath, NotifierWatcher::service,
+                QStringLiteral("StatusNotifierItemUnregistered"), this,
+                SLOT(noteUnregistered(QString, QDBusMessage)));
+    auto* claim = new QDBusPendingCallWatcher(bus.asyncCall(requestName(serviceName)), this);
     connect(claim, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* call) {
         call->deleteLater();
         if (call->isError())
@@ -133,13 +128,11 @@ void NotifierPresentation::claimName() {
         else
             registerWithWatcher();
     });
-    bus.connect(NotifierWatcher::service, NotifierWatcher::objectPath, NotifierWatcher::service,
-                QStringLiteral("StatusNotifierItemUnregistered"), this, SLOT(noteUnregistered(QString)));
 }
 
-void NotifierPresentation::noteUnregistered(const QString& dropped) {
+void NotifierPresentation::noteUnregistered(const QString& dropped, const QDBusMessage& signal) {
     // A watcher under load may drop an item that was slow to answer it, and never ask again.
-    if (!dropped.startsWith(serviceName))
+    if (!dropped.startsWith(serviceName) || (!watcher.isEmpty() && signal.service() != watcher))
         return;
     if (drops.add(std::chrono::milliseconds(age.elapsed())) > mostDrops)
         emit refused();
@@ -156,6 +149,7 @@ void NotifierPresentation::registerWithWatcher() {
         new QDBusPendingCallWatcher(bus.asyncCall(call, static_cast<int>(watcherPatience.count())), this);
     connect(registration, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* answer) {
         answer->deleteLater();
+        watcher = answer->reply().service();
         if (answer->isError())
             emit refused();
     });

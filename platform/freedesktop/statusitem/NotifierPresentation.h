@@ -5,7 +5,9 @@
 #include "platform/freedesktop/statusitem/Presentation.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QElapsedTimer>
+#include <QString>
 
 #include <cstdint>
 
@@ -37,7 +39,7 @@ private:
     void registerWithWatcher();
 
 private slots:
-    void noteUnregistered(const QString& item);
+    void noteUnregistered(const QString& item, const QDBusMessage& signal);
 
 private:
     void sendSignal(const QString& name, const QVariantList& arguments);
@@ -45,6 +47,7 @@ private:
     QDBusConnection bus;
     NotifierAppearance appearance;
     QString serviceName;
+    QString watcher; ///< The bar's own name on the bus, once it has answered.
     NotifierObject* item;
     MenuObject* menu;
     bool announced = false;

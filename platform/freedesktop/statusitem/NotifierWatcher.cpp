@@ -1,5 +1,7 @@
 #include "platform/freedesktop/statusitem/NotifierWatcher.h"
 
+#include "platform/freedesktop/BusMessages.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -9,14 +11,6 @@
 namespace tambrelle {
 
 namespace {
-
-QDBusMessage callToBus(const QString& method, const QString& argument) {
-    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-                                                       QStringLiteral("/org/freedesktop/DBus"),
-                                                       QStringLiteral("org.freedesktop.DBus"), method);
-    call.setArguments({argument});
-    return call;
-}
 
 /// A name for a watcher whose process cannot be looked at, for example from inside a sandbox.
 const QString unknownProgram = QStringLiteral("?");
@@ -39,8 +33,8 @@ NotifierWatcher::NotifierWatcher(const QDBusConnection& bus, QObject* parent) : 
                 follow(owner);
             });
     const uint asked = question;
-    auto* answer =
-        new QDBusPendingCallWatcher(bus.asyncCall(callToBus(QStringLiteral("GetNameOwner"), service)), this);
+    auto* answer = new QDBusPendingCallWatcher(
+        bus.asyncCall(callToBus(QStringLiteral("GetNameOwner"), {service})), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, asked](QDBusPendingCallWatcher* call) {
         call->deleteLater();
         const QDBusPendingReply<QString> reply = *call;
@@ -56,7 +50,7 @@ void NotifierWatcher::follow(const QString& owner) {
         return;
     }
     auto* answer = new QDBusPendingCallWatcher(
-        bus.asyncCall(callToBus(QStringLiteral("GetConnectionUnixProcessID"), owner)), this);
+        bus.asyncCall(callToBus(QStringLiteral("GetConnectionUnixProcessID"), {owner})), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, asked](QDBusPendingCallWatcher* call) {
         call->deleteLater();
         const QDBusPendingReply<uint> reply = *call;

@@ -1,10 +1,23 @@
-#include "platform/freedesktop/statusitem/BusReplies.h"
+#include "platform/freedesktop/BusMessages.h"
 
 #include <QDBusError>
 #include <QDBusVariant>
 #include <QVariant>
 
 namespace tambrelle {
+
+QDBusMessage callToBus(const QString& method, const QVariantList& arguments) {
+    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+                                                       QStringLiteral("/org/freedesktop/DBus"),
+                                                       QStringLiteral("org.freedesktop.DBus"), method);
+    call.setArguments(arguments);
+    return call;
+}
+
+QDBusMessage requestName(const QString& name) {
+    constexpr uint doNotQueue = 4;
+    return callToBus(QStringLiteral("RequestName"), {name, doNotQueue});
+}
 
 QDBusMessage invalidArguments(const QDBusMessage& call) {
     return call.createErrorReply(QDBusError::InvalidArgs, QStringLiteral("The arguments have other types"));

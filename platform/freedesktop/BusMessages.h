@@ -1,11 +1,19 @@
 #pragma once
 
 #include <QDBusMessage>
+#include <QString>
+#include <QVariantList>
 #include <QVariantMap>
 
 #include <optional>
 
 namespace tambrelle {
+
+/// A call of the bus itself, org.freedesktop.DBus.
+[[nodiscard]] QDBusMessage callToBus(const QString& method, const QVariantList& arguments);
+
+/// Asks the bus for a well-known name; where another has it, without waiting in line for it.
+[[nodiscard]] QDBusMessage requestName(const QString& name);
 
 /// The error for a call whose arguments have not the types of its method.
 [[nodiscard]] QDBusMessage invalidArguments(const QDBusMessage& call);
