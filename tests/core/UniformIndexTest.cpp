@@ -59,7 +59,7 @@ TEST(UniformIndex, TurnsRejectedWordsIntoEqualShares) {
 }
 
 TEST(UniformIndex, TakesEachWordOnceWhereTheBoundIsAPowerOfTwo) {
-    fakes::FakeRandomSource words{{0, 1, greatest}};
+    fakes::FakeRandomSource words({0, 1, greatest});
     EXPECT_EQ(uniformIndex(words, 8), 0u);
     EXPECT_EQ(uniformIndex(words, 8), 0u);
     EXPECT_EQ(uniformIndex(words, 1), 0u);
@@ -67,7 +67,7 @@ TEST(UniformIndex, TakesEachWordOnceWhereTheBoundIsAPowerOfTwo) {
 }
 
 TEST(UniformIndexDeathTest, StopsOnABoundOfZero) {
-    fakes::FakeRandomSource words{{1}};
+    fakes::FakeRandomSource words({1});
     EXPECT_DEATH(uniformIndex(words, 0), "index into nothing");
 }
 

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """The line itself, as a screen reader finds it in the floating label of a desktop without a bar."""
 
-from harness import DesktopTest, main
+from harness import DesktopTest, main, until
 from harness.moments import LATER, LATER_LINE, LINE, NOON, TWO_TICKS
 
 
@@ -49,6 +49,17 @@ class Line(DesktopTest):
         program = self.start_program()
         program.wait_for_text("🎉 5 Sansculottides · Quintidi · 9:99")
         program.wait_for_text("🍇 1 Vendémiaire · Primidi · 0:00", limit=5)
+
+
+class Overlooked(DesktopTest):
+    def test_shows_its_label_again_until_it_is_seen(self):
+        self.desktop.x11.lose_windows(True)
+        self.desktop.clock.set(NOON)
+        program = self.start_program()
+        program.wait_for_text("🌫️ 23 Brumaire · Tridi · 5:00")
+        self.assertEqual(self.desktop.x11.windows_of(program.pid), [])
+        self.desktop.x11.lose_windows(False)
+        until("the label is on the screen", lambda: self.desktop.x11.windows_of(program.pid))
 
 
 class Zones(DesktopTest):

@@ -69,7 +69,7 @@ class MonitorsTest(PanelTest):
 
         pointer.move(*before.middle)
         pointer.press()
-        until("the window manager has taken hold of it", follows)
+        until("it has been taken hold of", follows)
         pointer.move(x, y)
         until("the label is where the pointer is", lambda: abs(self.label().middle[0] - x) < before.width / 2
               and abs(self.label().middle[1] - y) < 2 * before.height)
@@ -118,6 +118,20 @@ class Several(MonitorsTest):
         self.drag_label(1000, 300)
         self.click_label()
         self.until_panel_within(RIGHT)
+        self.must_be_well()
+
+
+class Dragged(MonitorsTest):
+    def test_the_label_follows_the_pointer_and_stays(self):
+        self.start_seen(LEFT)
+        for x, y in ((300, 300), (500, 200)):
+            self.drag_label(x, y)
+        stays = self.label()
+        self.click_label()
+        self.until_panel_within(LEFT)
+        self.desktop.key("Escape")
+        self.until_closed()
+        self.assertEqual(self.label(), stays)
         self.must_be_well()
 
 

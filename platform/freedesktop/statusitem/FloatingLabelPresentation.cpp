@@ -7,12 +7,19 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <chrono>
+
 namespace tambrelle {
 
 namespace {
 
 /// The air above and below the text, logical pixels.
 constexpr int verticalPadding = 3;
+
+/// A window manager that is just starting may lose the wish of a window to be shown. At a login it may be
+/// late.
+constexpr std::chrono::seconds untilSeen{2};
+constexpr int mostShows = 15;
 
 constexpr Qt::WindowFlags windowFlags =
     Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus;
@@ -31,8 +38,12 @@ FloatingLabelPresentation::FloatingLabelPresentation(QObject* parent)
         // The toolkit, if it looked while the window manager was putting the window into its frame, holds it
         // for one at the origin, and the drag would begin with a leap.
         label.move(corner);
-        label.windowHandle()->startSystemMove();
+        // Where there is no window manager to move it on, each step of the pointer comes here.
+        if (label.windowHandle()->startSystemMove())
+            label.letGo();
     });
+    seen.setInterval(untilSeen);
+    connect(&seen, &QTimer::timeout, this, &FloatingLabelPresentation::showAgainUnlessSeen);
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this,
             &FloatingLabelPresentation::followPrimaryScreen);
     // Queued: while it is told of, a screen that goes is still among the others.
@@ -70,6 +81,20 @@ void FloatingLabelPresentation::present(const StatusItemContent& content) {
     label.setLine(content.line);
     if (label.size() != before)
         moveToCorner();
+    label.show();
+    if (shows > 0)
+        return;
+    shows = 1;
+    seen.start();
+}
+
+void FloatingLabelPresentation::showAgainUnlessSeen() {
+    if (label.windowHandle()->isExposed() || shows > mostShows) {
+        seen.stop();
+        return;
+    }
+    ++shows;
+    label.hide();
     label.show();
 }
 

@@ -4,6 +4,7 @@
 #include "platform/freedesktop/statusitem/Presentation.h"
 
 #include <QRect>
+#include <QTimer>
 
 #include <array>
 
@@ -26,8 +27,11 @@ private:
     void followPrimaryScreen();
     void noteScreens();
     void moveToCorner();
+    void showAgainUnlessSeen();
 
     LineLabel label;
+    QTimer seen; ///< Runs until the label has been on a screen.
+    int shows = 0;
     QRect bar;
     std::array<QMetaObject::Connection, 2> geometry; ///< Of the primary screen and of its free part.
     bool placedByUser = false;

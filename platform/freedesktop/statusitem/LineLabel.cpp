@@ -46,19 +46,20 @@ void LineLabel::paintEvent(QPaintEvent* /*event*/) {
 
 void LineLabel::mousePressEvent(QMouseEvent* event) {
     pressed = event->button() == Qt::LeftButton;
+    pulled = false;
     pressedAt = event->globalPosition().toPoint();
+    grip = event->position().toPoint();
 }
 
 void LineLabel::mouseMoveEvent(QMouseEvent* event) {
-    const int distance = (event->globalPosition().toPoint() - pressedAt).manhattanLength();
-    if (!pressed || distance < QApplication::startDragDistance())
-        return;
-    pressed = false;
-    emit dragged((event->globalPosition() - event->position()).toPoint());
+    const QPoint pointer = event->globalPosition().toPoint();
+    pulled = pulled || (pointer - pressedAt).manhattanLength() >= QApplication::startDragDistance();
+    if (pressed && pulled)
+        emit dragged(pointer - grip);
 }
 
 void LineLabel::mouseReleaseEvent(QMouseEvent* event) {
-    if (pressed && event->button() == Qt::LeftButton)
+    if (pressed && !pulled && event->button() == Qt::LeftButton)
         emit clicked(event->globalPosition().toPoint());
     pressed = false;
 }

@@ -21,10 +21,14 @@ public:
     /// Lays the line on a slip of paper of its own; without one it stands on whatever is behind the window.
     void setPaper(const QColor& ground, const QColor& edge);
 
+    /// The press under way is over for the label: another moves the window from here on.
+    void letGo() { pressed = false; }
+
 signals:
     /// Pressed and released in place; `position` is on the screen.
     void clicked(QPoint position);
-    /// Pressed and pulled away; `corner` is the window's upper left one on the screen, as the pointer has it.
+    /// Pressed and pulled away, at each step of the pointer; `corner` is where that puts the window's upper
+    /// left one on the screen.
     void dragged(QPoint corner);
 
 protected:
@@ -36,8 +40,10 @@ protected:
 private:
     QColor paper;
     QColor paperEdge;
-    QPoint pressedAt;
+    QPoint pressedAt; ///< On the screen.
+    QPoint grip;      ///< The same in the label.
     bool pressed = false;
+    bool pulled = false;
 };
 
 } // namespace tambrelle

@@ -44,6 +44,9 @@ _HANDLER = ctypes.CFUNCTYPE(ctypes.c_int, ctypes.c_void_p, ctypes.c_void_p)
 _ignore = _HANDLER(lambda display, event: 0)
 _x11.XSetErrorHandler(_ignore)
 
+_x11.XSelectInput.argtypes = [ctypes.c_void_p, ctypes.c_ulong, ctypes.c_long]
+_x11.XSync.argtypes = [ctypes.c_void_p, ctypes.c_int]
+_SUBSTRUCTURE_REDIRECT = 1 << 20
 _VIEWABLE = 2
 _ANY_TYPE = 0
 
@@ -99,6 +102,11 @@ class Display:
             return ctypes.cast(data, ctypes.POINTER(ctypes.c_ulong))[0] if size.value == 32 and count.value else None
         finally:
             _x11.XFree(data)
+
+    def lose_windows(self, lose):
+        """Whether windows that want to be shown are kept from it, as by a window manager that overlooks them."""
+        _x11.XSelectInput(self._display, self._root, _SUBSTRUCTURE_REDIRECT if lose else 0)
+        _x11.XSync(self._display, 1)
 
     def has_window_manager(self):
         return bool(self.cardinal(self._root, "_NET_SUPPORTING_WM_CHECK"))
