@@ -177,7 +177,10 @@ class SessionBus(ServicesWithNotifications):
 
     def test_a_morning_without_a_bus_is_shown_when_it_returns(self):
         self.desktop.clock.set("2025-11-15 07:59:00")
+        server = self.start_server()
         program = self.start_program(preferences=SILENT)
+        # It asks for its mornings only once somebody is there to show them.
+        until("the service has answered", server.output)
         until("the label floats", lambda: self.desktop.x11.windows_of(program.pid))
         before = self.look(program)
         self.kill_bus()
