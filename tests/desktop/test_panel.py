@@ -67,6 +67,8 @@ class Manners(PanelTest):
 
 
 class Panel(PanelTest):
+    screen = "1280x900x24"  # with room for a picture of full height, whatever the fonts
+
     def test_says_the_day_in_full(self):
         self.start()
         self.open_panel()
