@@ -63,8 +63,10 @@ function(tambrelle_program name)
   target_link_libraries(${name} PRIVATE tambrelle_options)
 endfunction()
 
-# tambrelle_test(NAME FILES...): a GoogleTest program, one ctest entry for each of its tests.
+# tambrelle_test(NAME FILES...): a GoogleTest program, one ctest entry for each of its tests. Its own code is compiled as it
+# stands: to optimize what runs once takes longer than it saves. What it tests is compiled as for users.
 function(tambrelle_test name)
   tambrelle_program(${name} ${ARGN})
+  target_compile_options(${name} PRIVATE -O0)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
 endfunction()
