@@ -26,7 +26,8 @@ set(TAMBRELLE_CONTROL_FLOW $<$<BOOL:${TAMBRELLE_HAS_CF_PROTECTION}>:-fcf-protect
 
 if(TAMBRELLE_SANITIZE)
   target_compile_options(tambrelle_options INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    # Of the debugging information only what a trace needs.
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
   target_link_options(tambrelle_options INTERFACE -fsanitize=address,undefined)
 elseif(TAMBRELLE_FUZZ)
   target_compile_options(tambrelle_options INTERFACE

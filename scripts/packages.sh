@@ -19,7 +19,7 @@ packages_of() {
         echo xfce4-panel xfconf xfwm4 dunst faketime util-linux procps adwaita-icon-theme
         ;;
     test) # what ./check asks for beyond that
-        echo libgtest-dev libgmock-dev libbenchmark-dev clang-format-14 clang-tidy-14 ccache
+        echo libgtest-dev libgmock-dev libbenchmark-dev clang-format-14 clang-tidy-14
         echo clang-14 libclang-rt-14-dev gcovr
         echo desktop-file-utils appstream libxml2-utils man-db groff-base mandoc shellcheck
         echo pulseaudio pulseaudio-utils sox ffmpeg strace binutils

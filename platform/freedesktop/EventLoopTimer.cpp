@@ -1,12 +1,19 @@
 #include "platform/freedesktop/EventLoopTimer.h"
 
+#include <utility>
+
 namespace tambrelle {
+
+EventLoopTimer::EventLoopTimer(std::function<void()> first) : first(std::move(first)) {}
 
 void EventLoopTimer::start(std::chrono::milliseconds interval, std::function<void()> action) {
     // The default, coarse type would turn 864 ms into 875 and skip every 79th decimal second.
     timer.setTimerType(Qt::PreciseTimer);
     timer.disconnect();
-    QObject::connect(&timer, &QTimer::timeout, &timer, std::move(action));
+    QObject::connect(&timer, &QTimer::timeout, &timer, [this, action = std::move(action)] {
+        first();
+        action();
+    });
     timer.start(interval);
 }
 

@@ -9,9 +9,9 @@
 #include "platform/freedesktop/SessionBus.h"
 #include "platform/freedesktop/SystemClock.h"
 #include "platform/freedesktop/SystemRandomSource.h"
-#include "platform/freedesktop/notifications/EventLoopWakeUp.h"
 #include "platform/freedesktop/notifications/FreedesktopNotificationService.h"
 #include "platform/freedesktop/notifications/ScheduledNotificationCenter.h"
+#include "platform/freedesktop/notifications/TickingWakeUp.h"
 #include "platform/freedesktop/sound/SpawnedAudioPlayer.h"
 #include "platform/freedesktop/sound/ThemedSystemSound.h"
 #include "platform/freedesktop/statusitem/FreedesktopStatusItem.h"
@@ -28,13 +28,13 @@ struct FreedesktopPlatform::Parts {
     }
 
     SystemClock clock;
-    EventLoopTimer timer;
+    TickingWakeUp wakeUp{clock};
+    EventLoopTimer timer{[this] { wakeUp.look(); }};
     SystemRandomSource random;
     IniUserDefaults defaults{IniUserDefaults::standardPath()};
     InstalledResources resources;
     SpawnedAudioPlayer audioPlayer{SpawnedAudioPlayer::standardProgram()};
     ThemedSystemSound systemSound;
-    EventLoopWakeUp wakeUp{clock};
     FreedesktopNotificationService notificationService;
     ScheduledNotificationCenter notifications{clock, wakeUp, notificationService};
     AutostartLoginItem loginItem{AutostartLoginItem::standardFolder(),

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 #include <optional>
+#include <string>
 
 namespace tambrelle {
 namespace {
@@ -54,6 +55,14 @@ TEST(EventLoopTimerTest, StartedAnewDropsTheFormerAction) {
     timer.start(1ms, [&] { ++latter; });
     EXPECT_TRUE(test::waitUntil([&] { return latter >= 3; }));
     EXPECT_EQ(former, 0);
+}
+
+TEST(EventLoopTimerTest, CallsWhatComesFirstAheadOfEachAction) {
+    std::string order;
+    EventLoopTimer timer([&] { order += 'f'; });
+    timer.start(1ms, [&] { order += 'a'; });
+    EXPECT_TRUE(test::waitUntil([&] { return order.size() >= 4; }));
+    EXPECT_EQ(order.substr(0, 4), "fafa");
 }
 
 TEST(EventLoopTimerTest, DoesNotFireOnceItIsDestroyed) {
