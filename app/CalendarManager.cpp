@@ -73,7 +73,7 @@ void CalendarManager::update() {
     // and a third time.
     const ChangeGroup group(*this);
     const Instant now = services.clock.now();
-    const auto [newDate, newTime] = RevolutionaryCalendar::toMoment(now);
+    const auto [newDate, newTime] = momentReader.at(now, services.clock.zone());
     followDayChange(newDate);
     chimeOnHourChange(newTime.hours);
     rotateSlogan(now);

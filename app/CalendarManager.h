@@ -7,6 +7,7 @@
 #include "core/DecimalTime.h"
 #include "core/Instant.h"
 #include "core/MenuBarFormat.h"
+#include "core/MomentReader.h"
 #include "core/RevolutionaryDate.h"
 #include "ui/AppTheme.h"
 
@@ -105,6 +106,7 @@ private:
 
     Instant lastSloganChange;
     std::int64_t lastDecimalHour;
+    MomentReader momentReader;
 };
 
 } // namespace tambrelle

@@ -159,6 +159,15 @@ std::optional<CivilComponents> components(Instant instant) {
     return wallClock(wholeSeconds(instant));
 }
 
+std::optional<std::chrono::seconds> steadyOffset(Instant instant, std::chrono::seconds span) {
+    readZoneAgain();
+    const UnixSeconds at = wholeSeconds(instant);
+    const auto offset = offsetAt(at);
+    if (!offset || offset != offsetAt(at + span.count()))
+        return std::nullopt;
+    return std::chrono::seconds{*offset};
+}
+
 std::optional<Instant> instant(const CivilComponents& components) {
     const auto resolution = resolveComponents(components);
     if (!resolution || !resolution->first)

@@ -27,6 +27,11 @@ namespace GregorianCalendar {
 /// where the zone data counts them, reads 59. Absent where the year does not fit an int.
 std::optional<CivilComponents> components(Instant instant);
 
+/// What the wall clock is ahead of universal time at the instant and still is when `span` has passed, which
+/// is shorter than any offset has ever lasted: four days. Absent where it is another by then, and where
+/// `components` is absent at either end.
+std::optional<std::chrono::seconds> steadyOffset(Instant instant, std::chrono::seconds span);
+
 /// The instant at which the wall clock shows these components, the first one where it shows them twice.
 /// Absent where a field is out of its range (nothing is carried over), where the wall clock never shows them
 /// because a change of the zone's offset skips them, and where the instant is out of range.

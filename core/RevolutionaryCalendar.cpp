@@ -40,18 +40,25 @@ constexpr std::array<RomanSymbol, 13> romanSymbols{{
     {1, "I"},
 }};
 
+// The epoch is a midnight, so the whole days since then are those between the two civil dates, and the one
+// reading of the zone that gave the date is enough.
+RevolutionaryDate dateOf(std::int64_t civilDay) {
+    return fromDayNumber(civilDay - epochDayNumber);
+}
+
 RevolutionaryDate dateOf(const std::optional<CivilComponents>& civil) {
     precondition(civil.has_value(), "an instant without a civil date");
-    // The epoch is a midnight, so the whole days since then are those between the two civil dates, and the
-    // one reading of the zone that gave the date is enough.
-    return fromDayNumber(civilDayNumber(civil->year, civil->month, civil->day) - epochDayNumber);
+    return dateOf(civilDayNumber(civil->year, civil->month, civil->day));
+}
+
+DecimalTime timeOf(std::int64_t secondOfDay) {
+    constexpr std::int64_t decimalSecondsPerDay = 100'000;
+    const std::int64_t decimalSeconds = secondOfDay * decimalSecondsPerDay / secondsPerDay;
+    return {decimalSeconds / 10'000, decimalSeconds % 10'000 / 100, decimalSeconds % 100};
 }
 
 DecimalTime timeOf(const std::optional<CivilComponents>& civil) {
-    constexpr std::int64_t decimalSecondsPerDay = 100'000;
-    const std::int64_t seconds = civil ? civil->hour * 3600 + civil->minute * 60 + civil->second : 0;
-    const std::int64_t decimalSeconds = seconds * decimalSecondsPerDay / secondsPerDay;
-    return {decimalSeconds / 10'000, decimalSeconds % 10'000 / 100, decimalSeconds % 100};
+    return timeOf(civil ? civil->hour * 3600 + civil->minute * 60 + civil->second : 0);
 }
 
 } // namespace
@@ -91,6 +98,13 @@ DecimalTime toDecimalTime(Instant instant) {
 RevolutionaryMoment toMoment(Instant instant) {
     const auto civil = GregorianCalendar::components(instant);
     return {dateOf(civil), timeOf(civil)};
+}
+
+RevolutionaryMoment toMoment(Instant instant, std::chrono::seconds offset) {
+    using std::chrono::days;
+    const auto wall = std::chrono::floor<std::chrono::seconds>(instant) + offset;
+    const auto day = std::chrono::floor<days>(wall);
+    return {dateOf(std::int64_t{day.time_since_epoch().count()}), timeOf((wall - day).count())};
 }
 
 std::string toRoman(std::int64_t value) {

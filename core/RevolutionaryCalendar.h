@@ -37,6 +37,9 @@ DecimalTime toDecimalTime(Instant instant);
 /// Both of the above from one reading of the zone, which is most of what either costs.
 RevolutionaryMoment toMoment(Instant instant);
 
+/// As above without any reading of the zone, for who knows what the wall clock is ahead of universal time.
+RevolutionaryMoment toMoment(Instant instant, std::chrono::seconds offset);
+
 /// The number in Roman numerals, with as many M as it takes; empty for zero and below.
 std::string toRoman(std::int64_t value);
 

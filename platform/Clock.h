@@ -2,6 +2,9 @@
 
 #include "core/Instant.h"
 
+#include <cstdint>
+#include <optional>
+
 namespace tambrelle {
 
 /// Where the application and the desktop's side of it ask for now, so that a test can set the time. Only the
@@ -12,6 +15,10 @@ public:
 
     /// The present instant by the system's wall clock; it may jump in either direction between two calls.
     [[nodiscard]] virtual Instant now() const = 0;
+
+    /// Differs from every earlier answer once the system's zone has changed, at the latest ten seconds after.
+    /// Absent, as it is by default: the zone may have changed at any time.
+    [[nodiscard]] virtual std::optional<std::uint64_t> zone() const { return std::nullopt; }
 };
 
 } // namespace tambrelle

@@ -17,6 +17,17 @@ TEST(SystemClockTest, ShowsTheSystemsTimeInMicroseconds) {
     EXPECT_LE(now, after);
 }
 
+TEST(SystemClockTest, NamesAStateOfTheZoneThatLastsForSeconds) {
+    const SystemClock clock;
+    const auto first = clock.zone();
+    ASSERT_TRUE(first.has_value());
+    // At worst the ten seconds end between two of these.
+    const auto second = clock.zone();
+    const auto third = clock.zone();
+    EXPECT_TRUE(second == first || third == second);
+    EXPECT_LE(first, third);
+}
+
 TEST(SystemRandomSourceTest, WordsDifferAndEveryBitIsDrawnBothWays) {
     SystemRandomSource source;
     std::set<std::uint64_t> words;

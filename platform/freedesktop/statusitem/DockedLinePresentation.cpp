@@ -17,14 +17,14 @@ DockedLinePresentation::DockedLinePresentation(const TrayManager& tray, QObject*
 }
 
 void DockedLinePresentation::present(const StatusItemContent& content) {
-    const int before = needed.width();
-    needed = LineStyle::sizeOf(content.line);
+    const int before = label.lineSize().width();
     label.setLine(content.line);
-    if (needed.width() != before)
+    if (label.lineSize().width() != before)
         dock.settle();
 }
 
 void DockedLinePresentation::judge(std::optional<QSize> granted) {
+    const QSize needed = label.lineSize();
     const bool tooNarrow = !granted || granted->width() < needed.width();
     if (!tooNarrow && fit == Fit::natural && granted->width() > needed.width() &&
         granted->height() > needed.height()) {

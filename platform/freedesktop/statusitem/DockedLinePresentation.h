@@ -24,7 +24,6 @@ private:
     const TrayManager& tray;
     LineLabel label;
     TrayDock dock;
-    QSize needed; ///< By the line, logical pixels; the label's own size is whatever the bar makes it.
     /// How tall the label is: as its text, as the bar's row, or as its text for good.
     enum class Fit { natural, asTallAsTheRow, given } fit = Fit::natural;
 };

@@ -1,13 +1,15 @@
 #include "platform/freedesktop/statusitem/LineImage.h"
 
 #include "platform/freedesktop/statusitem/LineStyle.h"
+#include "platform/freedesktop/statusitem/MeasuredLine.h"
 
 #include <QPainter>
 
 namespace tambrelle {
 
-QImage lineImage(const QString& line, int scale) {
-    const QSize size = LineStyle::sizeOf(line);
+QImage lineImage(const QString& text, int scale) {
+    const MeasuredLine line(text);
+    const QSize size = line.size();
     QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(scale);
     image.fill(Qt::transparent);
@@ -18,9 +20,9 @@ QImage lineImage(const QString& line, int scale) {
     halo.setAlphaF(0.35F);
     painter.setPen(halo);
     for (const QPoint offset : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)})
-        LineStyle::draw(painter, place.translated(offset), line);
+        line.draw(painter, place.translated(offset));
     painter.setPen(LineStyle::lightInk);
-    LineStyle::draw(painter, place, line);
+    line.draw(painter, place);
     return image;
 }
 

@@ -1,7 +1,5 @@
 #include "platform/freedesktop/statusitem/LineLabel.h"
 
-#include "platform/freedesktop/statusitem/LineStyle.h"
-
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -16,7 +14,7 @@ LineLabel::LineLabel(Qt::WindowFlags flags) : QLabel(nullptr, flags) {
 }
 
 void LineLabel::setLine(const QString& text) {
-    const QSize room = LineStyle::sizeOf(text).grownBy(contentsMargins());
+    const QSize room = line.emplace(text).size().grownBy(contentsMargins());
     if (room != size())
         setFixedSize(room);
     setText(text);
@@ -41,7 +39,8 @@ void LineLabel::paintEvent(QPaintEvent* /*event*/) {
         painter.fillRect(rect().adjusted(1, 1, -1, -1), paper);
     }
     painter.setPen(palette().color(QPalette::WindowText));
-    LineStyle::draw(painter, contentsRect(), text());
+    if (line)
+        line->draw(painter, contentsRect());
 }
 
 void LineLabel::mousePressEvent(QMouseEvent* event) {

@@ -1,11 +1,6 @@
 #pragma once
 
 #include <QColor>
-#include <QSize>
-
-class QPainter;
-class QRect;
-class QString;
 
 /// How the line looks wherever the application draws it itself.
 namespace tambrelle::LineStyle {
@@ -19,14 +14,6 @@ inline constexpr QColor darkInk(20, 20, 20);
 
 /// Space between the text and the ends of the line, logical pixels.
 inline constexpr int padding = 4;
-
-/// What `line` takes with its padding, logical pixels. Set in the system's monospaced font, so that the width
-/// holds while digits change.
-[[nodiscard]] QSize sizeOf(const QString& line);
-
-/// Draws `line` in the painter's pen, in the middle of `place`: its leading emoji in colour, the rest
-/// monospaced.
-void draw(QPainter& painter, const QRect& place, const QString& line);
 
 /// The ink that reads best on `ground`.
 [[nodiscard]] QColor inkOn(const QColor& ground);
