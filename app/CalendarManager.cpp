@@ -73,7 +73,7 @@ void CalendarManager::update() {
     // and a third time.
     const ChangeGroup group(*this);
     const Instant now = services.clock.now();
-    const auto [newDate, newTime] = momentReader.at(now, services.clock.zone());
+    const auto [newDate, newTime] = momentReader.at(now, services.clock.zoneGeneration());
     followDayChange(newDate);
     chimeOnHourChange(newTime.hours);
     rotateSlogan(now);

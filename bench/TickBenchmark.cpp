@@ -38,7 +38,10 @@ double lookupCost() {
 
 /// The application without its windows, on a desktop of fakes.
 struct Ticking {
-    Ticking() { platform.clock.set(noon); }
+    Ticking() {
+        platform.clock.set(noon);
+        platform.clock.beginZoneGeneration();
+    }
 
     void tick() {
         platform.timer.fire();

@@ -26,8 +26,8 @@ set(TAMBRELLE_CONTROL_FLOW $<$<BOOL:${TAMBRELLE_HAS_CF_PROTECTION}>:-fcf-protect
 
 if(TAMBRELLE_SANITIZE)
   target_compile_options(tambrelle_options INTERFACE
-    # Of the debugging information only what a trace needs.
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+    -g1) # of the debugging information only what a trace needs
   target_link_options(tambrelle_options INTERFACE -fsanitize=address,undefined)
 elseif(TAMBRELLE_FUZZ)
   target_compile_options(tambrelle_options INTERFACE
@@ -65,9 +65,9 @@ function(tambrelle_program name)
 endfunction()
 
 # tambrelle_test(NAME FILES...): a GoogleTest program, one ctest entry for each of its tests. Its own code is compiled as it
-# stands: to optimize what runs once takes longer than it saves. What it tests is compiled as for users.
+# stands: to optimize what runs once takes longer than it saves. The libraries that it tests are those of the program.
 function(tambrelle_test name)
   tambrelle_program(${name} ${ARGN})
-  target_compile_options(${name} PRIVATE -O0)
+  target_compile_options(${name} PRIVATE -O0 -U_FORTIFY_SOURCE)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
 endfunction()

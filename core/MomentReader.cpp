@@ -4,17 +4,18 @@
 
 namespace tambrelle {
 
-RevolutionaryMoment MomentReader::at(Instant now, std::optional<std::uint64_t> zone) {
-    if (!zone)
+RevolutionaryMoment MomentReader::at(Instant now, std::optional<std::uint64_t> generation) {
+    if (!generation)
         return RevolutionaryCalendar::toMoment(now);
-    const bool holds = steady && steady->zone == *zone && steady->from <= now && now - steady->from < reach;
+    const bool holds =
+        steady && steady->generation == *generation && steady->from <= now && now - steady->from < span;
     if (!holds) {
         steady.reset();
-        const auto offset = GregorianCalendar::steadyOffset(now, reach);
+        const auto offset = GregorianCalendar::steadyOffset(now, span);
         // The clocks are about to change.
         if (!offset)
             return RevolutionaryCalendar::toMoment(now);
-        steady = {*zone, now, *offset};
+        steady = {*generation, now, *offset};
     }
     return RevolutionaryCalendar::toMoment(now, steady->offset);
 }

@@ -13,18 +13,18 @@ namespace tambrelle {
 /// moment costs, and asks the kernel each time.
 class MomentReader {
 public:
-    /// The moment by the system's zone. `zone` is what it was in an earlier call only while the zone is the
-    /// same; absent, the zone is read.
-    [[nodiscard]] RevolutionaryMoment at(Instant now, std::optional<std::uint64_t> zone);
+    /// The moment by the system's zone, whose `generation` is another one after each change; absent, the zone
+    /// is read.
+    [[nodiscard]] RevolutionaryMoment at(Instant now, std::optional<std::uint64_t> generation);
 
 private:
     /// How far ahead the offset is looked up at most. It may change only once in that time.
-    static constexpr std::chrono::seconds reach{60};
+    static constexpr std::chrono::seconds span{60};
 
     struct Steady {
-        std::uint64_t zone;
+        std::uint64_t generation;
         Instant from;
-        std::chrono::seconds offset; ///< of the wall clock, within `reach` from then on
+        std::chrono::seconds offset; ///< of the wall clock, within `span` from then on
     };
 
     std::optional<Steady> steady;

@@ -4,14 +4,14 @@
 
 namespace tambrelle {
 
-EventLoopTimer::EventLoopTimer(std::function<void()> first) : first(std::move(first)) {}
+EventLoopTimer::EventLoopTimer(std::function<void()> beforeEach) : beforeEach(std::move(beforeEach)) {}
 
 void EventLoopTimer::start(std::chrono::milliseconds interval, std::function<void()> action) {
     // The default, coarse type would turn 864 ms into 875 and skip every 79th decimal second.
     timer.setTimerType(Qt::PreciseTimer);
     timer.disconnect();
     QObject::connect(&timer, &QTimer::timeout, &timer, [this, action = std::move(action)] {
-        first();
+        beforeEach();
         action();
     });
     timer.start(interval);

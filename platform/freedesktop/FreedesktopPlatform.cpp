@@ -10,8 +10,8 @@
 #include "platform/freedesktop/SystemClock.h"
 #include "platform/freedesktop/SystemRandomSource.h"
 #include "platform/freedesktop/notifications/FreedesktopNotificationService.h"
+#include "platform/freedesktop/notifications/PolledWakeUp.h"
 #include "platform/freedesktop/notifications/ScheduledNotificationCenter.h"
-#include "platform/freedesktop/notifications/TickingWakeUp.h"
 #include "platform/freedesktop/sound/SpawnedAudioPlayer.h"
 #include "platform/freedesktop/sound/ThemedSystemSound.h"
 #include "platform/freedesktop/statusitem/FreedesktopStatusItem.h"
@@ -28,8 +28,8 @@ struct FreedesktopPlatform::Parts {
     }
 
     SystemClock clock;
-    TickingWakeUp wakeUp{clock};
-    EventLoopTimer timer{[this] { wakeUp.look(); }};
+    PolledWakeUp wakeUp{clock};
+    EventLoopTimer timer{[this] { wakeUp.poll(); }};
     SystemRandomSource random;
     IniUserDefaults defaults{IniUserDefaults::standardPath()};
     InstalledResources resources;

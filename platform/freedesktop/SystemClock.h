@@ -1,24 +1,26 @@
 #pragma once
 
 #include "platform/Clock.h"
+#include "platform/freedesktop/FolderWatch.h"
 
-#include <QFileSystemWatcher>
+#include <QString>
 
 namespace tambrelle {
 
 /// The system's wall clock. Needs the toolkit's application object.
 class SystemClock final : public Clock {
 public:
-    SystemClock();
+    /// `zoneFolder` is where the system keeps its link to the zone.
+    explicit SystemClock(const QString& zoneFolder = QStringLiteral("/etc"));
 
     [[nodiscard]] Instant now() const override;
 
-    /// Another one as soon as something comes or goes in the folder of the zone's link. What happens
-    /// elsewhere, or within a file, is never told: for its sake the answer also changes with time.
-    [[nodiscard]] std::optional<std::uint64_t> zone() const override;
+    /// Another as soon as something changes in the zone's folder. What changes elsewhere is never told: for
+    /// its sake the answer also changes with time.
+    [[nodiscard]] std::optional<std::uint64_t> zoneGeneration() const override;
 
 private:
-    QFileSystemWatcher watcher;
+    FolderWatch zoneWatch;
     std::uint64_t changes = 0;
 };
 

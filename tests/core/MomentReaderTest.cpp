@@ -54,6 +54,7 @@ TEST(MomentReader, FollowsAJumpOfTheClock) {
     MomentReader reader;
     for (const auto jump : {0h, 1h, -1h, 24h * 200, -24h * 200, -24h * 365 * 300})
         EXPECT_EQ(reader.at(noon + jump, 1), toMoment(noon + jump)) << jump.count();
+    EXPECT_EQ(reader.at(noon, 1), toMoment(noon));
     EXPECT_EQ(reader.at(noon - 1us, 1), toMoment(noon - 1us));
 }
 

@@ -18,7 +18,7 @@ DAY_17 = "25 Brumaire an CCXXXIV"
 DAY_29 = "7 Frimaire an CCXXXIV"
 ON_TIME = 5      # seconds after the minute
 AFTER_JUMP = 10  # seconds after sleep or after the clock was set
-SOME_WAKES = 6   # of the program, each of which looks at the clock
+SOME_WAKES = 6   # of the program: ticks, each of which looks at the clock, and the answers to its few calls
 
 
 class MorningTest(DesktopTest):
@@ -47,8 +47,7 @@ class MorningTest(DesktopTest):
         until(f"shown: {titles}", lambda: self.titles() == titles or None, limit)
 
     def live(self, program, times=SOME_WAKES):
-        """Until the program has woken so often: each time it looks at the clock, and the next one finds delivered what was
-        due at the one before."""
+        """Until the program has woken so often, mostly for ticks: at each it looks at the clock, and delivers what is due."""
         def woken():
             program.must_run()
             return wakes(program.pid) >= enough

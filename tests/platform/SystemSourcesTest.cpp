@@ -1,10 +1,16 @@
+#include "platform/freedesktop/FolderWatch.h"
 #include "platform/freedesktop/SystemClock.h"
 #include "platform/freedesktop/SystemRandomSource.h"
+#include "tests/support/EventLoop.h"
+
+#include <QFile>
+#include <QTemporaryDir>
 
 #include <chrono>
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <set>
+#include <utility>
 
 namespace tambrelle {
 namespace {
@@ -17,15 +23,51 @@ TEST(SystemClockTest, ShowsTheSystemsTimeInMicroseconds) {
     EXPECT_LE(now, after);
 }
 
-TEST(SystemClockTest, NamesAStateOfTheZoneThatLastsForSeconds) {
-    const SystemClock clock;
-    const auto first = clock.zone();
+TEST(SystemClockTest, TellsOneGenerationOfTheZoneFromTheNext) {
+    const QTemporaryDir folder;
+    const SystemClock clock(folder.path());
+    const auto first = clock.zoneGeneration();
     ASSERT_TRUE(first.has_value());
-    // At worst the ten seconds end between two of these.
-    const auto second = clock.zone();
-    const auto third = clock.zone();
+    // At worst the seconds for which it is trusted end between two of these.
+    const auto second = clock.zoneGeneration();
+    const auto third = clock.zoneGeneration();
     EXPECT_TRUE(second == first || third == second);
-    EXPECT_LE(first, third);
+
+    // As the system's tools do: a new link takes the place of the former.
+    ASSERT_TRUE(QFile::link(QStringLiteral("/usr/share/zoneinfo/Asia/Tokyo"),
+                            folder.filePath(QStringLiteral("localtime"))));
+    EXPECT_TRUE(test::waitUntil([&] { return clock.zoneGeneration() != third; }, std::chrono::seconds{2}));
+}
+
+TEST(FolderWatchTest, TellsWhatComesIsWrittenMovesAndGoes) {
+    const QTemporaryDir folder;
+    const FolderWatch watch(folder.path());
+    int told = 0;
+    QObject::connect(&watch, &FolderWatch::changed, &watch, [&told] { ++told; });
+    const auto isTold = [&told] { return test::waitUntil([&told] { return std::exchange(told, 0) > 0; }); };
+    test::runQueued();
+    EXPECT_EQ(told, 0);
+
+    QFile file(folder.filePath(QStringLiteral("localtime")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_TRUE(isTold()) << "comes";
+    file.write("TZif");
+    file.close();
+    EXPECT_TRUE(isTold()) << "is written";
+    ASSERT_TRUE(file.rename(folder.filePath(QStringLiteral("other"))));
+    EXPECT_TRUE(isTold()) << "moves";
+    ASSERT_TRUE(file.remove());
+    EXPECT_TRUE(isTold()) << "goes";
+    test::runQueued();
+    EXPECT_EQ(told, 0);
+}
+
+TEST(FolderWatchTest, IsSilentWhereThereIsNoFolder) {
+    const FolderWatch watch(QStringLiteral("/nonexistent"));
+    int told = 0;
+    QObject::connect(&watch, &FolderWatch::changed, &watch, [&told] { ++told; });
+    test::runQueued();
+    EXPECT_EQ(told, 0);
 }
 
 TEST(SystemRandomSourceTest, WordsDifferAndEveryBitIsDrawnBothWays) {

@@ -125,15 +125,10 @@ void Life::tick() {
     around.clock.set(now);
     if (before)
         something();
+    lookAtMornings();
     expectTick(now);
     around.timer.fire();
-    // The wake-up looks whenever the event loop wakes, and may be before or after the tick that woke it.
-    const bool looksFirst = chance.oneIn(2);
-    if (looksFirst)
-        lookAtMornings();
     runTwoTurns();
-    if (!looksFirst)
-        lookAtMornings();
     compare();
     compareDays();
     if (happens && !before)
@@ -375,6 +370,7 @@ void Life::travel() {
     note("travels to " + zone);
     ::setenv("TZ", zone.c_str(), 1);
     ::tzset();
+    around.clock.beginZoneGeneration();
     wall.emplace(zone);
     mornings.moveTo(*wall);
 }

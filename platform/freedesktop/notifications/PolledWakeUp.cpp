@@ -1,4 +1,4 @@
-#include "platform/freedesktop/notifications/TickingWakeUp.h"
+#include "platform/freedesktop/notifications/PolledWakeUp.h"
 
 #include "platform/Clock.h"
 
@@ -14,25 +14,25 @@ constexpr std::chrono::seconds longestWait{30};
 
 } // namespace
 
-TickingWakeUp::TickingWakeUp(const Clock& clock) : clock(clock) {}
+PolledWakeUp::PolledWakeUp(const Clock& clock) : clock(clock) {}
 
-void TickingWakeUp::arm(Instant next, std::function<void()> onDue) {
+void PolledWakeUp::arm(Instant next, std::function<void()> onDue) {
     instant = next;
     due = std::move(onDue);
     waitFrom(clock.now());
 }
 
-void TickingWakeUp::disarm() {
+void PolledWakeUp::disarm() {
     due = nullptr;
 }
 
-void TickingWakeUp::look() {
+void PolledWakeUp::poll() {
     if (!due)
         return;
     const Instant now = clock.now();
     // On a clock that was set back the next call would be as far away as it went.
-    const bool wentBack = now < lastLook;
-    lastLook = now;
+    const bool wentBack = now < lastPoll;
+    lastPoll = now;
     if (now < nextCall && !wentBack)
         return;
     waitFrom(now);
@@ -41,8 +41,8 @@ void TickingWakeUp::look() {
     call();
 }
 
-void TickingWakeUp::waitFrom(Instant now) {
-    lastLook = now;
+void PolledWakeUp::waitFrom(Instant now) {
+    lastPoll = now;
     nextCall = std::min(instant, now + longestWait);
 }
 

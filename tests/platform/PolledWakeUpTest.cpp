@@ -1,4 +1,4 @@
-#include "platform/freedesktop/notifications/TickingWakeUp.h"
+#include "platform/freedesktop/notifications/PolledWakeUp.h"
 
 #include "tests/fakes/FakeClock.h"
 
@@ -9,7 +9,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-class TickingWakeUpTest : public testing::Test {
+class PolledWakeUpTest : public testing::Test {
 protected:
     void armFor(Instant::duration wait) {
         wakeUp.arm(clock.now() + wait, [this] { ++calls; });
@@ -17,17 +17,17 @@ protected:
 
     void pass(Instant::duration time) {
         clock.advance(time);
-        wakeUp.look();
+        wakeUp.poll();
     }
 
     fakes::FakeClock clock;
-    TickingWakeUp wakeUp{clock};
+    PolledWakeUp wakeUp{clock};
     int calls = 0;
 };
 
 } // namespace
 
-TEST_F(TickingWakeUpTest, CallsWhenTheWaitIsOver) {
+TEST_F(PolledWakeUpTest, CallsWhenTheWaitIsOver) {
     armFor(2s);
     pass(1s);
     EXPECT_EQ(calls, 0);
@@ -35,31 +35,31 @@ TEST_F(TickingWakeUpTest, CallsWhenTheWaitIsOver) {
     EXPECT_EQ(calls, 1);
 }
 
-TEST_F(TickingWakeUpTest, CallsForWhatIsPastButNotFromWithin) {
+TEST_F(PolledWakeUpTest, CallsForWhatIsPastButNotFromWithin) {
     armFor(-1h);
     EXPECT_EQ(calls, 0);
-    wakeUp.look();
+    wakeUp.poll();
     EXPECT_EQ(calls, 1);
 }
 
 // As after sleep, or when the clock is set.
-TEST_F(TickingWakeUpTest, SeesAJumpOfTheClock) {
+TEST_F(PolledWakeUpTest, SeesAJumpOfTheClock) {
     armFor(8h);
-    wakeUp.look();
+    wakeUp.poll();
     EXPECT_EQ(calls, 0);
     pass(9h);
     EXPECT_EQ(calls, 1);
 }
 
 // The instant may mean something else by then, in another zone.
-TEST_F(TickingWakeUpTest, LetsItsOwnerLookTwiceAMinute) {
+TEST_F(PolledWakeUpTest, LetsItsOwnerLookTwiceAMinute) {
     armFor(8h);
     for (int second = 0; second < 60; ++second)
         pass(1s);
     EXPECT_EQ(calls, 2);
 }
 
-TEST_F(TickingWakeUpTest, CallsWhenTheClockHasGoneBack) {
+TEST_F(PolledWakeUpTest, CallsWhenTheClockHasGoneBack) {
     armFor(8h);
     pass(-24h);
     EXPECT_EQ(calls, 1);
@@ -69,7 +69,7 @@ TEST_F(TickingWakeUpTest, CallsWhenTheClockHasGoneBack) {
     EXPECT_EQ(calls, 2);
 }
 
-TEST_F(TickingWakeUpTest, IsQuietOnceDisarmed) {
+TEST_F(PolledWakeUpTest, IsQuietOnceDisarmed) {
     armFor(1h);
     wakeUp.disarm();
     const int reads = clock.reads();
@@ -78,27 +78,27 @@ TEST_F(TickingWakeUpTest, IsQuietOnceDisarmed) {
     EXPECT_EQ(clock.reads(), reads);
 }
 
-TEST_F(TickingWakeUpTest, KeepsOnlyTheLastInstant) {
+TEST_F(PolledWakeUpTest, KeepsOnlyTheLastInstant) {
     armFor(0s);
     armFor(1h);
-    wakeUp.look();
+    wakeUp.poll();
     EXPECT_EQ(calls, 0);
 }
 
-TEST_F(TickingWakeUpTest, MayBeArmedFromWithin) {
+TEST_F(PolledWakeUpTest, MayBeArmedFromWithin) {
     wakeUp.arm(clock.now(), [this] { armFor(-1s); });
-    wakeUp.look();
+    wakeUp.poll();
     EXPECT_EQ(calls, 0);
-    wakeUp.look();
+    wakeUp.poll();
     EXPECT_EQ(calls, 1);
 }
 
-TEST_F(TickingWakeUpTest, MayBeDisarmedFromWithin) {
+TEST_F(PolledWakeUpTest, MayBeDisarmedFromWithin) {
     wakeUp.arm(clock.now(), [this] {
         ++calls;
         wakeUp.disarm();
     });
-    wakeUp.look();
-    wakeUp.look();
+    wakeUp.poll();
+    wakeUp.poll();
     EXPECT_EQ(calls, 1);
 }

@@ -8,15 +8,15 @@ class Clock;
 
 /// Looks at the clock with each tick of a timer that runs anyway, and so wakes the program for nothing of its
 /// own.
-class TickingWakeUp final : public WakeUp {
+class PolledWakeUp final : public WakeUp {
 public:
-    explicit TickingWakeUp(const Clock& clock);
+    explicit PolledWakeUp(const Clock& clock);
 
     void arm(Instant next, std::function<void()> onDue) override;
     void disarm() override;
 
     /// To be called about once a second, and by nothing that `due` may destroy.
-    void look();
+    void poll();
 
 private:
     void waitFrom(Instant now);
@@ -24,7 +24,7 @@ private:
     const Clock& clock;
     Instant instant{};
     Instant nextCall{};
-    Instant lastLook{};
+    Instant lastPoll{};
     std::function<void()> due; ///< empty while disarmed
 };
 
