@@ -17,18 +17,18 @@ void PrintTo(const RevolutionaryMoment& moment, std::ostream* out) {
 namespace {
 
 using namespace std::chrono_literals;
-using namespace std::chrono;
 using RevolutionaryCalendar::toMoment;
+using std::chrono::sys_days;
 using test::ScopedTimeZone;
 
-constexpr Instant noon = sys_days(2025y / 11 / 15) + 11h;
+constexpr Instant noonInParis = sys_days(2025y / 11 / 15) + 11h;
 
-struct Change {
+struct ChangeOfClocks {
     const char* zone;
     Instant at;
 };
 
-class MomentReaderTest : public testing::TestWithParam<Change> {};
+class MomentReaderTest : public testing::TestWithParam<ChangeOfClocks> {};
 
 /// Every decimal second of the hours around a change of the zone's offset, in one state of the zone.
 TEST_P(MomentReaderTest, IsRightAtEachTickAroundAChangeOfTheClocks) {
@@ -39,41 +39,42 @@ TEST_P(MomentReaderTest, IsRightAtEachTickAroundAChangeOfTheClocks) {
         ASSERT_EQ(reader.at(tick, 1), toMoment(tick)) << tick.time_since_epoch().count();
 }
 
-INSTANTIATE_TEST_SUITE_P(Changes, MomentReaderTest,
-                         testing::Values(Change{"Europe/Paris", sys_days(2025y / 3 / 30) + 1h},
-                                         Change{"Europe/Paris", sys_days(2025y / 10 / 26) + 1h},
-                                         Change{"Europe/Paris", sys_days(1911y / 3 / 10) + 23h + 50min + 39s},
-                                         Change{"Africa/Cairo", sys_days(2025y / 4 / 24) + 22h},
-                                         Change{"America/Sao_Paulo", sys_days(2018y / 11 / 4) + 3h},
-                                         Change{"Pacific/Apia", sys_days(2011y / 12 / 30) + 10h},
-                                         Change{"Australia/Lord_Howe", sys_days(2025y / 4 / 5) + 15h},
-                                         Change{"right/Europe/Paris", sys_days(2017y / 1 / 1) + 26s}));
+INSTANTIATE_TEST_SUITE_P(
+    Changes, MomentReaderTest,
+    testing::Values(ChangeOfClocks{"Europe/Paris", sys_days(2025y / 3 / 30) + 1h},
+                    ChangeOfClocks{"Europe/Paris", sys_days(2025y / 10 / 26) + 1h},
+                    ChangeOfClocks{"Europe/Paris", sys_days(1911y / 3 / 10) + 23h + 50min + 39s},
+                    ChangeOfClocks{"Africa/Cairo", sys_days(2025y / 4 / 24) + 22h},
+                    ChangeOfClocks{"America/Sao_Paulo", sys_days(2018y / 11 / 4) + 3h},
+                    ChangeOfClocks{"Pacific/Apia", sys_days(2011y / 12 / 30) + 10h},
+                    ChangeOfClocks{"Australia/Lord_Howe", sys_days(2025y / 4 / 5) + 15h},
+                    ChangeOfClocks{"right/Europe/Paris", sys_days(2017y / 1 / 1) + 26s}));
 
 TEST(MomentReader, FollowsAJumpOfTheClock) {
     const ScopedTimeZone zone{"Europe/Paris"};
     MomentReader reader;
     for (const auto jump : {0h, 1h, -1h, 24h * 200, -24h * 200, -24h * 365 * 300})
-        EXPECT_EQ(reader.at(noon + jump, 1), toMoment(noon + jump)) << jump.count();
-    EXPECT_EQ(reader.at(noon, 1), toMoment(noon));
-    EXPECT_EQ(reader.at(noon - 1us, 1), toMoment(noon - 1us));
+        EXPECT_EQ(reader.at(noonInParis + jump, 1), toMoment(noonInParis + jump)) << jump.count();
+    EXPECT_EQ(reader.at(noonInParis, 1), toMoment(noonInParis));
+    EXPECT_EQ(reader.at(noonInParis - 1us, 1), toMoment(noonInParis - 1us));
 }
 
 TEST(MomentReader, ReadsTheZoneOnceInEachOfItsStates) {
     MomentReader reader;
     const ScopedTimeZone paris{"Europe/Paris"};
-    const auto inParis = reader.at(noon, 1);
-    EXPECT_EQ(inParis, toMoment(noon));
+    const auto inParis = reader.at(noonInParis, 1);
+    EXPECT_EQ(inParis, toMoment(noonInParis));
     const ScopedTimeZone tokyo{"Asia/Tokyo"};
-    EXPECT_EQ(reader.at(noon, 1), inParis) << "the same state";
-    EXPECT_EQ(reader.at(noon, 2), toMoment(noon));
-    EXPECT_NE(toMoment(noon), inParis);
+    EXPECT_EQ(reader.at(noonInParis, 1), inParis) << "the same state";
+    EXPECT_EQ(reader.at(noonInParis, 2), toMoment(noonInParis));
+    EXPECT_NE(toMoment(noonInParis), inParis);
 }
 
 TEST(MomentReader, ReadsTheZoneEachTimeWhereItsStateIsNotKnown) {
     MomentReader reader;
     for (const char* name : {"Europe/Paris", "Asia/Tokyo", "America/Los_Angeles"}) {
         const ScopedTimeZone zone{name};
-        EXPECT_EQ(reader.at(noon, std::nullopt), toMoment(noon)) << name;
+        EXPECT_EQ(reader.at(noonInParis, std::nullopt), toMoment(noonInParis)) << name;
     }
 }
 

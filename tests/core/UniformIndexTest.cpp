@@ -11,16 +11,16 @@
 namespace tambrelle {
 namespace {
 
-constexpr std::uint64_t greatest = std::numeric_limits<std::uint64_t>::max();
+constexpr std::uint64_t greatestWord = std::numeric_limits<std::uint64_t>::max();
 
 // The least word whose product with 10 has this high half: index * 2^64 / 10, rounded up, where 2^64
 // leaves 6.
 constexpr std::uint64_t firstWordOf(std::uint64_t index) {
-    return greatest / 10 * index + (6 * index + 9) / 10;
+    return greatestWord / 10 * index + (6 * index + 9) / 10;
 }
 
 TEST(UniformIndex, IsTheHighHalfOfTheProduct) {
-    fakes::FakeRandomSource words{{greatest, greatest / 2, greatest / 2 + 1, greatest / 10}};
+    fakes::FakeRandomSource words{{greatestWord, greatestWord / 2, greatestWord / 2 + 1, greatestWord / 10}};
     EXPECT_EQ(uniformIndex(words, 10), 9u);
     EXPECT_EQ(uniformIndex(words, 10), 4u);
     // 2^63 times 10 has a low half of 0, which is drawn again; what follows is 10 * floor((2^64 - 1) / 10).
@@ -34,7 +34,7 @@ TEST(UniformIndex, RejectsTheSixLowHalvesBelowSix) {
     for (std::uint64_t index = 0; index < 10; ++index) {
         const std::uint64_t first = firstWordOf(index);
         const std::uint64_t low = first * 10;
-        fakes::FakeRandomSource words{{first, greatest}};
+        fakes::FakeRandomSource words{{first, greatestWord}};
         if (low < 6) {
             EXPECT_EQ(uniformIndex(words, 10), 9u) << index;
             EXPECT_EQ(words.draws, 2) << index;
@@ -48,7 +48,7 @@ TEST(UniformIndex, RejectsTheSixLowHalvesBelowSix) {
 TEST(UniformIndex, TurnsRejectedWordsIntoEqualShares) {
     // What is left to each index after rejection is the same number of words.
     const auto acceptedWords = [](std::uint64_t index) {
-        const std::uint64_t last = index == 9 ? greatest : firstWordOf(index + 1) - 1;
+        const std::uint64_t last = index == 9 ? greatestWord : firstWordOf(index + 1) - 1;
         std::uint64_t first = firstWordOf(index);
         if (first * 10 < 6)
             ++first;
@@ -59,7 +59,7 @@ TEST(UniformIndex, TurnsRejectedWordsIntoEqualShares) {
 }
 
 TEST(UniformIndex, TakesEachWordOnceWhereTheBoundIsAPowerOfTwo) {
-    fakes::FakeRandomSource words({0, 1, greatest});
+    fakes::FakeRandomSource words({0, 1, greatestWord});
     EXPECT_EQ(uniformIndex(words, 8), 0u);
     EXPECT_EQ(uniformIndex(words, 8), 0u);
     EXPECT_EQ(uniformIndex(words, 1), 0u);
