@@ -68,7 +68,7 @@ void CalendarManager::startTimer() {
     });
 }
 
-void CalendarManager::update() {
+[[gnu::hot]] void CalendarManager::update() {
     // A tick that sent itself or its refresh through the event loop's queue would wake the program a second
     // and a third time.
     const ChangeGroup group(*this);
@@ -80,7 +80,7 @@ void CalendarManager::update() {
     publishedCurrentTime = newTime;
 }
 
-void CalendarManager::followDayChange(const RevolutionaryDate& newDate) {
+[[gnu::hot]] void CalendarManager::followDayChange(const RevolutionaryDate& newDate) {
     // The year is left out on purpose: the same day of another year is no change of day.
     if (newDate.day == todayDate().day && newDate.month == todayDate().month)
         return;
@@ -90,7 +90,7 @@ void CalendarManager::followDayChange(const RevolutionaryDate& newDate) {
     services.notifications.reschedule();
 }
 
-void CalendarManager::chimeOnHourChange(std::int64_t newHour) {
+[[gnu::hot]] void CalendarManager::chimeOnHourChange(std::int64_t newHour) {
     if (newHour == lastDecimalHour)
         return;
     if (newHour != decimalNoon || services.sound.soundEnabled())
@@ -98,7 +98,7 @@ void CalendarManager::chimeOnHourChange(std::int64_t newHour) {
     lastDecimalHour = newHour;
 }
 
-void CalendarManager::rotateSlogan(Instant now) {
+[[gnu::hot]] void CalendarManager::rotateSlogan(Instant now) {
     if (now - lastSloganChange <= sloganPeriod)
         return;
     // The draw may give the slogan on show once more.

@@ -4,7 +4,7 @@
 
 namespace tambrelle {
 
-RevolutionaryMoment MomentReader::at(Instant now, std::optional<std::uint64_t> generation) {
+[[gnu::hot]] RevolutionaryMoment MomentReader::at(Instant now, std::optional<std::uint64_t> generation) {
     if (!generation)
         return RevolutionaryCalendar::toMoment(now);
     const bool holds =

@@ -19,7 +19,7 @@ public:
 
 private:
     /// How far ahead the offset is looked up at most. It may change only once in that time.
-    static constexpr std::chrono::seconds span{60};
+    static constexpr std::chrono::seconds span{600};
 
     struct Steady {
         std::uint64_t generation;

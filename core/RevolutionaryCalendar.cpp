@@ -67,7 +67,7 @@ RevolutionaryDate fromGregorian(Instant instant) {
     return dateOf(GregorianCalendar::components(instant));
 }
 
-RevolutionaryDate fromDayNumber(std::int64_t daysSinceEpoch) {
+[[gnu::hot]] RevolutionaryDate fromDayNumber(std::int64_t daysSinceEpoch) {
     if (daysSinceEpoch < 0)
         return {1, 1, 1, 1};
 
@@ -100,7 +100,7 @@ RevolutionaryMoment toMoment(Instant instant) {
     return {dateOf(civil), timeOf(civil)};
 }
 
-RevolutionaryMoment toMoment(Instant instant, std::chrono::seconds offset) {
+[[gnu::hot]] RevolutionaryMoment toMoment(Instant instant, std::chrono::seconds offset) {
     using std::chrono::days;
     const auto wall = std::chrono::floor<std::chrono::seconds>(instant) + offset;
     const auto day = std::chrono::floor<days>(wall);

@@ -10,12 +10,12 @@ MenuBarLabel::MenuBarLabel(const CalendarManager& manager, StatusItem& item)
     refresh();
 }
 
-MenuBarLabel::Inputs MenuBarLabel::inputs() const {
+[[gnu::hot]] MenuBarLabel::Inputs MenuBarLabel::inputs() const {
     const DecimalTime& time = manager.currentTime();
     return {manager.todayDate(), time.hours, time.minutes, manager.menuBarFormat()};
 }
 
-void MenuBarLabel::refresh() {
+[[gnu::hot]] void MenuBarLabel::refresh() {
     // Most ticks pass within a decimal minute; building the text only to find it unchanged is most of their
     // cost.
     const Inputs next = inputs();

@@ -39,7 +39,7 @@ void Refresher::request() {
     QMetaObject::invokeMethod(this, &Refresher::run, Qt::QueuedConnection);
 }
 
-void Refresher::run() {
+[[gnu::hot]] void Refresher::run() {
     requested = false;
     if (!paused)
         refresh();

@@ -6,15 +6,15 @@ namespace tambrelle {
 
 EventLoopTimer::EventLoopTimer(std::function<void()> beforeEach) : beforeEach(std::move(beforeEach)) {}
 
-void EventLoopTimer::start(std::chrono::milliseconds interval, std::function<void()> action) {
+void EventLoopTimer::start(std::chrono::milliseconds interval, std::function<void()> next) {
+    action = std::move(next);
     // The default, coarse type would turn 864 ms into 875 and skip every 79th decimal second.
-    timer.setTimerType(Qt::PreciseTimer);
-    timer.disconnect();
-    QObject::connect(&timer, &QTimer::timeout, &timer, [this, action = std::move(action)] {
-        beforeEach();
-        action();
-    });
-    timer.start(interval);
+    timer.start(static_cast<int>(interval.count()), Qt::PreciseTimer, this);
+}
+
+[[gnu::hot]] void EventLoopTimer::timerEvent(QTimerEvent* /*event*/) {
+    beforeEach();
+    action();
 }
 
 } // namespace tambrelle

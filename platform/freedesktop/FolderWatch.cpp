@@ -1,9 +1,9 @@
 #include "platform/freedesktop/FolderWatch.h"
 
-#include <QFile>
-#include <QSocketNotifier>
+#include "platform/freedesktop/DescriptorWatch.h"
 
-#include <array>
+#include <QFile>
+
 #include <sys/inotify.h>
 #include <unistd.h>
 
@@ -15,24 +15,14 @@ FolderWatch::FolderWatch(const QString& folder, QObject* parent)
         return;
     ::inotify_add_watch(descriptor, QFile::encodeName(folder).constData(),
                         IN_CREATE | IN_DELETE | IN_MOVE | IN_CLOSE_WRITE | IN_ONLYDIR);
-    const auto* notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, [this] {
-        drain();
-        emit changed();
-    });
+    watch = std::make_unique<DescriptorWatch>(descriptor);
+    connect(watch.get(), &DescriptorWatch::drained, this, &FolderWatch::changed);
 }
 
 FolderWatch::~FolderWatch() {
-    // Before its descriptor is gone.
-    delete findChild<QSocketNotifier*>();
+    watch.reset();
     if (descriptor >= 0)
         ::close(descriptor);
-}
-
-void FolderWatch::drain() const {
-    std::array<char, 4096> events{};
-    while (::read(descriptor, events.data(), events.size()) > 0) {
-    }
 }
 
 } // namespace tambrelle

@@ -3,7 +3,11 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
+
 namespace tambrelle {
+
+class DescriptorWatch;
 
 /// Tells when something in a folder comes, goes, or has been written. Where the system has no more watches to
 /// give, it is silent; the toolkit's own would then list the folder once a second.
@@ -22,9 +26,8 @@ signals:
     void changed();
 
 private:
-    void drain() const;
-
     int descriptor = -1;
+    std::unique_ptr<DescriptorWatch> watch;
 };
 
 } // namespace tambrelle

@@ -1,6 +1,6 @@
 #include "platform/freedesktop/TerminationSignals.h"
 
-#include <QSocketNotifier>
+#include "platform/freedesktop/DescriptorWatch.h"
 
 #include <array>
 #include <csignal>
@@ -48,20 +48,18 @@ TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) {
         return; // out of descriptors: the signals end the program as they always do
     counter = descriptor;
     owner = ::getpid();
-    notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, [this] {
-        notifier->setEnabled(false);
-        emit received();
-    });
+    watch = std::make_unique<DescriptorWatch>(descriptor);
+    connect(watch.get(), &DescriptorWatch::drained, this, &TerminationSignals::received);
     for (const int signal : taken)
         handle(signal, note);
 }
 
 TerminationSignals::~TerminationSignals() {
-    if (notifier == nullptr)
+    if (!watch)
         return;
     for (const int signal : taken)
         handle(signal, SIG_DFL);
+    watch.reset();
     ::close(counter);
     counter = -1;
 }

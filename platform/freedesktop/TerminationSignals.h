@@ -2,9 +2,11 @@
 
 #include <QObject>
 
-class QSocketNotifier;
+#include <memory>
 
 namespace tambrelle {
+
+class DescriptorWatch;
 
 /// Takes the signals by which a session or an administrator ends a program (SIGTERM, SIGINT, SIGHUP) as a
 /// request, so that what is pending gets written and the item leaves the bar. A program that does not get
@@ -24,7 +26,7 @@ signals:
     void received();
 
 private:
-    QSocketNotifier* notifier = nullptr;
+    std::unique_ptr<DescriptorWatch> watch;
 };
 
 } // namespace tambrelle

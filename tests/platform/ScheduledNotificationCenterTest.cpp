@@ -135,6 +135,19 @@ TEST_F(ScheduledNotificationCenterTest, FollowsTheWallClockIntoAWesternZone) {
     EXPECT_EQ(service.shown.size(), 1U);
 }
 
+TEST_F(ScheduledNotificationCenterTest, LooksAtTheZoneOnlyOnceItMayHaveChanged) {
+    clock.set(at(3, 7, 7, 59));
+    clock.beginZoneGeneration();
+    center.add(request("morning", trigger(3, 7, 8)));
+    wakeUp.look();
+    const test::ScopedTimeZone there("Europe/London"); // it is 6:59 there
+    wakeUp.look();
+    EXPECT_EQ(wakeUp.armed, clock.now() + 1min) << "the same zone, for all it knows";
+    clock.beginZoneGeneration();
+    wakeUp.look();
+    EXPECT_EQ(wakeUp.armed, clock.now() + 1h + 1min);
+}
+
 TEST_F(ScheduledNotificationCenterTest, MakesUpForAMinuteThatTheClockSkips) {
     // On 29 March 2026 the clocks of Paris go from 2:00 to 3:00.
     clock.set(at(3, 29, 1, 59));

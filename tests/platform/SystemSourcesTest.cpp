@@ -28,15 +28,34 @@ TEST(SystemClockTest, TellsOneGenerationOfTheZoneFromTheNext) {
     const SystemClock clock(folder.path());
     const auto first = clock.zoneGeneration();
     ASSERT_TRUE(first.has_value());
-    // At worst the seconds for which it is trusted end between two of these.
-    const auto second = clock.zoneGeneration();
-    const auto third = clock.zoneGeneration();
-    EXPECT_TRUE(second == first || third == second);
+    EXPECT_EQ(clock.zoneGeneration(), first);
 
     // As the system's tools do: a new link takes the place of the former.
     ASSERT_TRUE(QFile::link(QStringLiteral("/usr/share/zoneinfo/Asia/Tokyo"),
                             folder.filePath(QStringLiteral("localtime"))));
-    EXPECT_TRUE(test::waitUntil([&] { return clock.zoneGeneration() != third; }, std::chrono::seconds{2}));
+    EXPECT_TRUE(test::waitUntil([&] { return clock.zoneGeneration() != first; }, std::chrono::seconds{2}));
+}
+
+TEST(SystemClockTest, TellsWhenTheLinksTargetIsAnotherFile) {
+    const QTemporaryDir folder;
+    const QTemporaryDir elsewhere;
+    const QString target = elsewhere.filePath(QStringLiteral("zone"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral("/usr/share/zoneinfo/Asia/Tokyo"), target));
+    ASSERT_TRUE(QFile::link(target, folder.filePath(QStringLiteral("localtime"))));
+    const SystemClock lazy(folder.path(), std::chrono::hours{1});
+    const SystemClock clock(folder.path(), std::chrono::seconds{0});
+    const auto firstOfLazy = (void(lazy.now()), lazy.zoneGeneration());
+    const auto first = clock.zoneGeneration();
+    EXPECT_EQ(clock.zoneGeneration(), first);
+
+    // As an upgrade of the zones does.
+    const QString upgraded = elsewhere.filePath(QStringLiteral("upgraded"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral("/usr/share/zoneinfo/Asia/Seoul"), upgraded));
+    ASSERT_TRUE(QFile::remove(target) && QFile::rename(upgraded, target));
+    const auto second = clock.zoneGeneration();
+    EXPECT_NE(second, first);
+    EXPECT_EQ(clock.zoneGeneration(), second);
+    EXPECT_EQ(lazy.zoneGeneration(), firstOfLazy) << "not yet time for another look";
 }
 
 TEST(FolderWatchTest, TellsWhatComesIsWrittenMovesAndGoes) {

@@ -78,7 +78,13 @@ void ScheduledNotificationCenter::deliverDue() {
         service.show(request, options);
 }
 
+bool ScheduledNotificationCenter::zoneMayHaveChanged() const {
+    const auto zone = clock.zoneGeneration();
+    return !zone || zone != armedInZone;
+}
+
 void ScheduledNotificationCenter::armWakeUp() {
+    armedInZone = clock.zoneGeneration();
     std::optional<Instant> earliest;
     for (const UserNotificationRequest& request : requests) {
         const auto time = dueTime(request);
@@ -96,6 +102,9 @@ void ScheduledNotificationCenter::armWakeUp() {
 void ScheduledNotificationCenter::armWakeUpAt(Instant instant) {
     armed = instant;
     wakeUp.arm(instant, [this] {
+        // To work out when each of two weeks' mornings is due takes longer than half a minute of ticks.
+        if (clock.now() < armed && !zoneMayHaveChanged())
+            return;
         deliverDue();
         armWakeUp();
     });

@@ -3,6 +3,7 @@
 #include "core/Instant.h"
 #include "platform/UserNotificationCenter.h"
 
+#include <cstdint>
 #include <optional>
 
 namespace tambrelle {
@@ -32,6 +33,7 @@ public:
 
 private:
     void deliverDue();
+    [[nodiscard]] bool zoneMayHaveChanged() const;
     void armWakeUp();
     void armWakeUpAt(Instant instant);
 
@@ -40,7 +42,8 @@ private:
     NotificationService& service;
     UserNotificationCenterDelegate* delegate = nullptr;
     std::vector<UserNotificationRequest> requests;
-    std::optional<Instant> armed; ///< when the earliest of them is due
+    std::optional<Instant> armed;             ///< when the earliest of them is due
+    std::optional<std::uint64_t> armedInZone; ///< the generation of the zone in which that was worked out
 };
 
 } // namespace tambrelle

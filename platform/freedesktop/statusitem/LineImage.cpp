@@ -8,7 +8,8 @@
 namespace tambrelle {
 
 QImage lineImage(const QString& text, int scale) {
-    const MeasuredLine line(text);
+    MeasuredLine line;
+    line.setText(text);
     const QSize size = line.size();
     QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(scale);

@@ -14,7 +14,8 @@ LineLabel::LineLabel(Qt::WindowFlags flags) : QLabel(nullptr, flags) {
 }
 
 void LineLabel::setLine(const QString& text) {
-    const QSize room = line.emplace(text).size().grownBy(contentsMargins());
+    line.setText(text);
+    const QSize room = line.size().grownBy(contentsMargins());
     if (room != size())
         setFixedSize(room);
     setText(text);
@@ -39,8 +40,7 @@ void LineLabel::paintEvent(QPaintEvent* /*event*/) {
         painter.fillRect(rect().adjusted(1, 1, -1, -1), paper);
     }
     painter.setPen(palette().color(QPalette::WindowText));
-    if (line)
-        line->draw(painter, contentsRect());
+    line.draw(painter, contentsRect());
 }
 
 void LineLabel::mousePressEvent(QMouseEvent* event) {

@@ -6,8 +6,6 @@
 #include <QLabel>
 #include <QPoint>
 
-#include <optional>
-
 namespace tambrelle {
 
 /// The line as a widget: one line of monospaced text that can be clicked, and that a screen reader reads as
@@ -21,7 +19,7 @@ public:
     /// Shows `text` and takes exactly the room that it needs.
     void setLine(const QString& text);
     /// What the line needs, logical pixels; the label itself may have been made larger or smaller.
-    [[nodiscard]] QSize lineSize() const { return line ? line->size() : QSize(0, 0); }
+    [[nodiscard]] QSize lineSize() const { return line.size(); }
     /// The colour of the text; emoji keep their own. Until it is called, that of the desktop's windows.
     void setInk(const QColor& color);
     /// Lays the line on a slip of paper of its own; without one it stands on whatever is behind the window.
@@ -44,7 +42,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    std::optional<MeasuredLine> line;
+    MeasuredLine line;
     QColor paper;
     QColor paperEdge;
     QPoint pressedAt; ///< On the screen.
