@@ -56,7 +56,7 @@ def project_files(build):
     for block in output_of("ninja", "-C", str(build), "-t", "deps").split("\n\n"):
         files = [os.path.normpath(os.path.join(build, line.strip())) for line in block.splitlines()[1:]]
         if files:
-            found[files[0]] = sorted(file for file in files if file.startswith(f"{ROOT}/"))
+            found[files[0]] = sorted(file for file in files if file.startswith(f"{ROOT}/") and not file.endswith(".gch"))
     return found
 
 
@@ -69,7 +69,11 @@ def compile_options(build):
             words = words[1:]
         at = words.index("-o")
         del words[at:at + 2]
-        options = [word for word in words if word not in ("-c", entry["file"])]
+        options = [word for word in words if word not in ("-c", entry["file"], "-Winvalid-pch", "-fpch-preprocess")]
+        # Each file is read with its own includes alone.
+        if "-include" in options:
+            at = options.index("-include")
+            del options[at:at + 2]
         found[os.path.normpath(os.path.join(entry["directory"], entry["file"]))] = tuple(options)
     return found
 
