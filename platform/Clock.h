@@ -16,8 +16,9 @@ public:
     /// The present instant by the system's wall clock; it may jump in either direction between two calls.
     [[nodiscard]] virtual Instant now() const = 0;
 
-    /// Another number than ever before once the system's zone has changed, at the latest a minute after.
-    /// Absent, as it is by default: the zone may have changed at any time.
+    /// Another number than ever before once the system's zone has changed, at the latest half a minute later
+    /// by what `now` has answered meanwhile. Absent, as it is by default: the zone may have changed at any
+    /// time.
     [[nodiscard]] virtual std::optional<std::uint64_t> zoneGeneration() const { return std::nullopt; }
 };
 

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""tidy.py BUILD_DIR: runs clang-tidy over every tracked .cpp file and fails on any finding.
+"""tidy.py BUILD_DIR: runs clang-tidy over every tracked .cpp file and fails on any finding. The build is one by GCC.
 
 Nearly all of clang-tidy's time goes into the headers of the toolkit, so the files of one folder are read together, as one
 translation unit that includes them all. Files that do not compile together (two of them have an unnamed namespace with the

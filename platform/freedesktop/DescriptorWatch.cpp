@@ -22,7 +22,7 @@ void drain(int descriptor) {
 
 DescriptorWatch::DescriptorWatch(int descriptor, QObject* parent)
     : QObject(parent), end(::eventfd(0, EFD_CLOEXEC)) {
-    if (end < 0)
+    if (end < 0 || descriptor < 0)
         return;
     try {
         thread = std::thread([this, descriptor] { wait(descriptor); });

@@ -7,21 +7,23 @@
 namespace tambrelle {
 
 /// Reads away what comes from a descriptor and tells of it. It waits on a thread of its own: each descriptor
-/// that the event loop has to ask makes every tick dearer, and these have something to say once in a year.
+/// that the event loop has to ask makes every tick dearer, and these have something to say but seldom.
 class DescriptorWatch final : public QObject {
     Q_OBJECT
 
 public:
-    /// `descriptor` does not block, and outlives this object. Where the system has no thread or descriptor to
-    /// give, nothing is ever told.
+    /// `descriptor` does not block, and outlives this object.
     explicit DescriptorWatch(int descriptor, QObject* parent = nullptr);
     ~DescriptorWatch() override;
 
     DescriptorWatch(const DescriptorWatch&) = delete;
     DescriptorWatch& operator=(const DescriptorWatch&) = delete;
 
+    /// False where the system had no thread or descriptor to give: nothing will ever be told.
+    [[nodiscard]] bool isWatching() const { return thread.joinable(); }
+
 signals:
-    /// Something has come; told on this object's own thread.
+    /// Something has come; told by the event loop of the thread that this object was made on.
     void drained();
 
 private:

@@ -17,12 +17,12 @@ class SystemClock final : public Clock {
 public:
     /// `zoneFolder` is where the system keeps its link to the zone.
     explicit SystemClock(const QString& zoneFolder = QStringLiteral("/etc"),
-                         std::chrono::seconds betweenLooks = std::chrono::minutes{1});
+                         std::chrono::seconds betweenLooks = std::chrono::seconds{30});
 
     [[nodiscard]] Instant now() const override;
 
     /// Another as soon as something changes in the zone's folder. The link's target lies elsewhere, and is
-    /// looked at once a minute, or as the constructor was told.
+    /// looked at twice a minute, or as the constructor was told.
     [[nodiscard]] std::optional<std::uint64_t> zoneGeneration() const override;
 
 private:

@@ -44,18 +44,22 @@ void handle(int signal, void (*handler)(int)) {
 
 TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) {
     const int descriptor = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    if (descriptor < 0)
-        return; // out of descriptors: the signals end the program as they always do
+    watch = std::make_unique<DescriptorWatch>(descriptor);
+    if (!watch->isWatching()) {
+        // Out of descriptors or threads: the signals end the program as they always do.
+        ::close(descriptor);
+        return;
+    }
     counter = descriptor;
     owner = ::getpid();
-    watch = std::make_unique<DescriptorWatch>(descriptor);
-    connect(watch.get(), &DescriptorWatch::drained, this, &TerminationSignals::received);
+    connect(watch.get(), &DescriptorWatch::drained, this, &TerminationSignals::received,
+            Qt::SingleShotConnection);
     for (const int signal : taken)
         handle(signal, note);
 }
 
 TerminationSignals::~TerminationSignals() {
-    if (!watch)
+    if (counter < 0)
         return;
     for (const int signal : taken)
         handle(signal, SIG_DFL);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QFont>
 #include <QImage>
 #include <QSize>
@@ -19,16 +20,25 @@ public:
     /// Logical pixels.
     [[nodiscard]] QSize size() const { return room; }
 
-    /// Draws it with its upper left corner at `corner`, as sharp as the painter's device can show it.
+    /// Draws it with its upper left corner at `corner`, as sharp as the painter's device can show it; in the
+    /// painter's pen where the font has no colours for it.
     void draw(QPainter& painter, QPoint corner);
 
 private:
-    void drawAt(double ratio);
+    struct Look {
+        double ratio = 1; ///< device pixels for each logical one
+        QColor ink;
+
+        bool operator==(const Look&) const = default;
+    };
+
+    void drawPicture();
 
     QString text;
     QFont font;
     QSize room;
-    QImage picture; ///< For the device's ratio that it was last drawn at; null before.
+    Look look;      ///< As it was last drawn.
+    QImage picture; ///< Null before it is drawn.
 };
 
 } // namespace tambrelle

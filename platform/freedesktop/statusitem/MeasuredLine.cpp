@@ -3,6 +3,7 @@
 #include "platform/freedesktop/statusitem/LineStyle.h"
 
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QPainter>
 
 #include <algorithm>
@@ -14,10 +15,11 @@ namespace {
 
 constexpr int bodyPixelSize = 13;
 
-void layOut(QStaticText& part, const QString& text, const QFont& font) {
-    part.setTextFormat(Qt::PlainText);
-    part.setText(text);
-    part.prepare({}, font);
+QStaticText laidOut(const QString& text, const QFont& font) {
+    QStaticText result(text);
+    result.setTextFormat(Qt::PlainText);
+    result.prepare({}, font);
+    return result;
 }
 
 } // namespace
@@ -29,35 +31,72 @@ void MeasuredLine::setText(const QString& line) {
     // Asked for each time: the desktop's settings may have changed.
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPixelSize(bodyPixelSize);
-    // The space goes with the word: at the end of a text it would take no room.
+    useFont(font);
     const auto lastSpace = std::max(line.lastIndexOf(QLatin1Char(' ')), leading.size());
     const QString before = line.mid(leading.size(), lastSpace - leading.size());
-    if (before != beginning.text() || font != textFont)
-        layOut(beginning, before, font);
-    layOut(lastWord, line.mid(lastSpace), font);
+    if (before != beginning.text())
+        beginning = laidOut(before, font);
+    spell(line.mid(lastSpace + 1));
+}
+
+void MeasuredLine::useFont(const QFont& font) {
+    if (space > 0 && font == textFont)
+        return;
     textFont = font;
-    letters = {static_cast<int>(std::ceil(beginning.size().width() + lastWord.size().width())),
-               static_cast<int>(std::ceil(lastWord.size().height()))};
+    const QFontMetricsF metrics(font);
+    space = metrics.horizontalAdvance(QLatin1Char(' '));
+    lineHeight = static_cast<int>(std::ceil(metrics.height()));
+    beginning = {};
+    characters.clear();
+}
+
+void MeasuredLine::spell(const QString& word) {
+    lastWord.clear();
+    // A character of another script may have its shape from its neighbours.
+    const bool standAlone = std::all_of(word.begin(), word.end(), [](QChar c) { return c.unicode() < 0x80; });
+    if (!standAlone) {
+        lastWord.push_back(laidOut(word, textFont));
+        return;
+    }
+    for (const QChar character : word) {
+        auto known = characters.find(character);
+        if (known == characters.end())
+            known = characters.insert(character, laidOut(character, textFont));
+        lastWord.push_back(*known);
+    }
+}
+
+double MeasuredLine::lettersWidth() const {
+    double width = beginning.size().width() + space;
+    for (const QStaticText& part : lastWord)
+        width += part.size().width();
+    return width;
 }
 
 QSize MeasuredLine::size() const {
     if (!emoji)
         return {0, 0};
-    return {emoji->size().width() + letters.width() + 2 * LineStyle::padding,
-            std::max(letters.height(), emoji->size().height())};
+    const QSize picture = emoji->size();
+    return {picture.width() + static_cast<int>(std::ceil(lettersWidth())) + 2 * LineStyle::padding,
+            std::max(lineHeight, picture.height())};
 }
 
 void MeasuredLine::draw(QPainter& painter, const QRect& place) {
     if (!emoji)
         return;
     const QSize picture = emoji->size();
-    const auto middle = [&place](QSize size) { return place.top() + (place.height() - size.height()) / 2; };
-    const int left = place.left() + (place.width() - picture.width() - letters.width()) / 2;
-    emoji->draw(painter, {left, middle(picture)});
+    const auto middle = [&place](int height) { return place.top() + (place.height() - height) / 2; };
+    const int width = picture.width() + static_cast<int>(std::ceil(lettersWidth()));
+    const int left = place.left() + (place.width() - width) / 2;
+    emoji->draw(painter, {left, middle(picture.height())});
     painter.setFont(textFont);
-    const QPointF corner(left + picture.width(), middle(letters));
-    painter.drawStaticText(corner, beginning);
-    painter.drawStaticText(corner + QPointF(beginning.size().width(), 0), lastWord);
+    QPointF at(left + picture.width(), middle(lineHeight));
+    painter.drawStaticText(at, beginning);
+    at.rx() += beginning.size().width() + space;
+    for (const QStaticText& part : lastWord) {
+        painter.drawStaticText(at, part);
+        at.rx() += part.size().width();
+    }
 }
 
 } // namespace tambrelle

@@ -3,11 +3,13 @@
 #include "platform/freedesktop/statusitem/EmojiPicture.h"
 
 #include <QFont>
+#include <QHash>
 #include <QSize>
 #include <QStaticText>
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 class QPainter;
 class QRect;
@@ -15,8 +17,8 @@ class QRect;
 namespace tambrelle {
 
 /// A line in its two fonts: a leading emoji in colour, the rest in the system's monospaced font, so that the
-/// width holds while digits change. To lay it out costs more than to draw it, so each part is kept until it
-/// changes, and the time stands apart from the rest, which holds for a day.
+/// width holds while digits change. To lay it out costs more than to draw it, so what holds for a day is laid
+/// out once, and of the last word, which may be the time, each character.
 class MeasuredLine final {
 public:
     /// Lays `line` out.
@@ -29,11 +31,17 @@ public:
     void draw(QPainter& painter, const QRect& place);
 
 private:
+    void useFont(const QFont& font);
+    void spell(const QString& word);
+    [[nodiscard]] double lettersWidth() const;
+
     std::optional<EmojiPicture> emoji;
-    QStaticText beginning;
-    QStaticText lastWord;
     QFont textFont;
-    QSize letters; ///< both texts side by side
+    double space = 0; ///< the width of one, as before the last word; 0 while there is no font
+    int lineHeight = 0;
+    QStaticText beginning;
+    std::vector<QStaticText> lastWord;
+    QHash<QChar, QStaticText> characters; ///< all that have been shown in this font
 };
 
 } // namespace tambrelle

@@ -1,0 +1,85 @@
+#include "platform/freedesktop/statusitem/MeasuredLine.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace tambrelle {
+namespace {
+
+/// The line in white on black, `ratio` device pixels for each logical one.
+QImage drawn(MeasuredLine& line, double ratio = 1) {
+    QImage image((QSizeF(line.size()) * ratio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    painter.setPen(Qt::white);
+    line.draw(painter, QRect(QPoint(0, 0), line.size()));
+    return image;
+}
+
+QImage drawn(const char* text, double ratio = 1) {
+    MeasuredLine line;
+    line.setText(QString::fromUtf8(text));
+    return drawn(line, ratio);
+}
+
+int brightest(const QImage& image) {
+    int most = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            most = std::max(most, qGray(image.pixel(x, y)));
+    }
+    return most;
+}
+
+TEST(MeasuredLineTest, DrawsASymbolWithoutColoursOfItsOwnInTheInk) {
+    EXPECT_GT(brightest(drawn("\u0416")), 200);
+}
+
+TEST(MeasuredLineTest, FollowsTheInkAndTheScale) {
+    MeasuredLine line;
+    line.setText(QStringLiteral("\u0416 5:00"));
+    const QImage atFirst = drawn(line);
+    EXPECT_EQ(drawn(line, 2), drawn("\u0416 5:00", 2));
+    EXPECT_EQ(drawn(line), atFirst);
+
+    QImage onWhite(line.size(), QImage::Format_RGB32);
+    onWhite.fill(Qt::white);
+    QPainter painter(&onWhite);
+    painter.setPen(Qt::black);
+    line.draw(painter, QRect(QPoint(0, 0), line.size()));
+    painter.end();
+    onWhite.invertPixels();
+    EXPECT_LT(brightest(onWhite.copy(0, 0, 1, 1)), 1);
+    EXPECT_GT(brightest(onWhite), 200);
+}
+
+TEST(MeasuredLineTest, IsAsItWouldBeHadItNotShownAnotherBefore) {
+    MeasuredLine line;
+    for (const char* text :
+         {"\u0416 23 Brumaire \u00b7 Tridi \u00b7 5:00", "\u0416 23 Brumaire \u00b7 Tridi \u00b7 5:01",
+          "\u0416 5:01", "\u0416 23", "\u0416 23 Brum.", "\u0416 1 Vent\u00f4.", "\u0416"}) {
+        line.setText(QString::fromUtf8(text));
+        EXPECT_EQ(drawn(line), drawn(text)) << text;
+    }
+}
+
+TEST(MeasuredLineTest, IsAsWideWhateverTheDigits) {
+    MeasuredLine line;
+    line.setText(QStringLiteral("\u0416 1:11"));
+    const QSize ones = line.size();
+    line.setText(QStringLiteral("\u0416 8:08"));
+    EXPECT_EQ(line.size(), ones);
+    line.setText(QStringLiteral("\u0416 88:08"));
+    EXPECT_GT(line.size().width(), ones.width());
+}
+
+TEST(MeasuredLineTest, IsNothingBeforeThereIsAText) {
+    EXPECT_EQ(MeasuredLine().size(), QSize(0, 0));
+}
+
+} // namespace
+} // namespace tambrelle
