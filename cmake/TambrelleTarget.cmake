@@ -37,8 +37,6 @@ elseif(TAMBRELLE_COVERAGE)
   target_compile_options(tambrelle_options INTERFACE --coverage -fprofile-abs-path)
   target_link_options(tambrelle_options INTERFACE --coverage)
 else()
-  # All is bound at the start (below), so that a stub between caller and library would only cost a tick its page.
-  target_compile_options(tambrelle_options INTERFACE $<$<NOT:$<CONFIG:Debug>>:-fno-plt>)
   # GCC 12 knows the third level of fortification; an older compiler takes it for the second.
   target_compile_options(tambrelle_options INTERFACE
     -fstack-protector-strong -fstack-clash-protection ${TAMBRELLE_CONTROL_FLOW}
@@ -66,11 +64,12 @@ function(tambrelle_program name)
   target_link_libraries(${name} PRIVATE tambrelle_options)
 endfunction()
 
-# tambrelle_precompile(NAME HEADERS...): reads these, which nearly every file of a target includes, once for all of them. Of
-# others' headers only, so that a changed header of ours compiles no more than what includes it; each file includes what it
+# tambrelle_precompile(NAME HEADERS...): reads these, which nearly every file of a target includes, once for all of them. They
+# are best others' headers, so that a changed one of ours compiles no more than what includes it; each file includes what it
 # uses nonetheless, and is read without this by clang-tidy. Files that are read together share their headers anyway.
 function(tambrelle_precompile name)
-  if(NOT CMAKE_UNITY_BUILD AND NOT TAMBRELLE_FUZZ AND NOT TAMBRELLE_COVERAGE)
+  get_target_property(together ${name} UNITY_BUILD)
+  if(NOT together AND NOT TAMBRELLE_FUZZ AND NOT TAMBRELLE_COVERAGE)
     target_precompile_headers(${name} PRIVATE ${ARGN})
     # Lets a compiler cache see through them.
     target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)

@@ -66,19 +66,17 @@ void MeasuredLine::spell(const QString& word) {
     }
 }
 
-double MeasuredLine::lettersWidth() const {
-    double width = beginning.size().width() + space;
+int MeasuredLine::width() const {
+    double letters = beginning.size().width() + space;
     for (const QStaticText& part : lastWord)
-        width += part.size().width();
-    return width;
+        letters += part.size().width();
+    return emoji->size().width() + static_cast<int>(std::ceil(letters));
 }
 
 QSize MeasuredLine::size() const {
     if (!emoji)
         return {0, 0};
-    const QSize picture = emoji->size();
-    return {picture.width() + static_cast<int>(std::ceil(lettersWidth())) + 2 * LineStyle::padding,
-            std::max(lineHeight, picture.height())};
+    return {width() + 2 * LineStyle::padding, std::max(lineHeight, emoji->size().height())};
 }
 
 void MeasuredLine::draw(QPainter& painter, const QRect& place) {
@@ -86,8 +84,7 @@ void MeasuredLine::draw(QPainter& painter, const QRect& place) {
         return;
     const QSize picture = emoji->size();
     const auto middle = [&place](int height) { return place.top() + (place.height() - height) / 2; };
-    const int width = picture.width() + static_cast<int>(std::ceil(lettersWidth()));
-    const int left = place.left() + (place.width() - width) / 2;
+    const int left = place.left() + (place.width() - width()) / 2;
     emoji->draw(painter, {left, middle(picture.height())});
     painter.setFont(textFont);
     QPointF at(left + picture.width(), middle(lineHeight));

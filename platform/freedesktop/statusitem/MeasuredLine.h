@@ -33,7 +33,8 @@ public:
 private:
     void useFont(const QFont& font);
     void spell(const QString& word);
-    [[nodiscard]] double lettersWidth() const;
+    /// Without the padding; there is an emoji.
+    [[nodiscard]] int width() const;
 
     std::optional<EmojiPicture> emoji;
     QFont textFont;
