@@ -1,4 +1,4 @@
-// A whole tick: the timer's call, the queued update, the announcement, and the refresh of the line that it
+// A whole tick: the timer's call, the update, the announcement, and the refresh of the line that it
 // asks for. The clock stands still, so that the text never changes; the bar is never told. "lookups" is the
 // cost in zone lookups (tzset and localtime_r, measured in the same run), which every conversion of an
 // instant needs.

@@ -1,10 +1,16 @@
 #include "bench/baseline/BaselineItem.h"
 
+#include "platform/freedesktop/statusitem/IconPixmap.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusPendingCall>
 #include <QDBusVariant>
+#include <QFont>
+#include <QFontMetrics>
+#include <QImage>
+#include <QPainter>
 
 namespace tambrelle::baseline {
 
@@ -12,30 +18,49 @@ namespace {
 
 const QString watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
 
+QImage drawn(const QString& text) {
+    QFont font(QStringLiteral("monospace"));
+    font.setPixelSize(13);
+    const QFontMetrics metrics(font);
+    QImage image(metrics.horizontalAdvance(text), metrics.height(), QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(0, metrics.ascent(), text);
+    return image;
+}
+
 } // namespace
 
 QString BaselineItem::introspect(const QString& /*path*/) const {
     return QStringLiteral("<interface name=\"org.kde.StatusNotifierItem\"/>");
 }
 
-QVariantMap BaselineItem::properties() {
-    return {
-        {QStringLiteral("Category"), QStringLiteral("ApplicationStatus")},
-        {QStringLiteral("Id"), QStringLiteral("tambrelle-baseline")},
-        {QStringLiteral("Title"), QStringLiteral("🌫️ 23 Brumaire · Tridi · 5:00")},
-        {QStringLiteral("Status"), QStringLiteral("Active")},
-        {QStringLiteral("IconName"), QStringLiteral("x-office-calendar")},
-        {QStringLiteral("ItemIsMenu"), false},
-        {QStringLiteral("Menu"), QVariant::fromValue(QDBusObjectPath(QStringLiteral("/NO_DBUSMENU")))},
-    };
+BaselineItem::BaselineItem(const QString& text)
+    : properties{
+          {QStringLiteral("Category"), QStringLiteral("ApplicationStatus")},
+          {QStringLiteral("Id"), QStringLiteral("tambrelle-baseline")},
+          {QStringLiteral("Title"), QStringLiteral("🌫️ 23 Brumaire · Tridi · 5:00")},
+          {QStringLiteral("Status"), QStringLiteral("Active")},
+          {QStringLiteral("ItemIsMenu"), false},
+          {QStringLiteral("Menu"), QVariant::fromValue(QDBusObjectPath(QStringLiteral("/NO_DBUSMENU")))},
+      } {
+    if (text.isEmpty()) {
+        properties.insert(QStringLiteral("IconName"), QStringLiteral("x-office-calendar"));
+        return;
+    }
+    registerNotifierTypes();
+    properties.insert(QStringLiteral("IconPixmap"),
+                      QVariant::fromValue(IconPixmaps{IconPixmap::fromImage(drawn(text))}));
 }
 
 bool BaselineItem::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
     QDBusMessage reply = message.createReply();
     if (message.member() == QLatin1String("GetAll")) {
-        reply = message.createReply(QVariant(properties()));
+        reply = message.createReply(QVariant(properties));
     } else if (message.member() == QLatin1String("Get")) {
-        const QVariant value = properties().value(message.arguments().value(1).toString());
+        const QVariant value = properties.value(message.arguments().value(1).toString());
         reply = value.isValid() ? message.createReply(QVariant::fromValue(QDBusVariant(value)))
                                 : message.createErrorReply(QDBusError::UnknownProperty,
                                                            QStringLiteral("No such property"));

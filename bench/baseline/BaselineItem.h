@@ -5,14 +5,16 @@
 
 namespace tambrelle::baseline {
 
-/// The least status notifier item that a bar takes: fixed properties, no menu, no signal.
+/// The least status notifier item that a bar takes: fixed properties, no menu, no signal. Its icon is one of
+/// the desktop's theme, or the text drawn once.
 class BaselineItem final : public QDBusVirtualObject {
     Q_OBJECT
 
 public:
     static inline const QString path = QStringLiteral("/StatusNotifierItem");
 
-    using QDBusVirtualObject::QDBusVirtualObject;
+    /// Draws `text` as the icon; where it is empty the icon has a name.
+    explicit BaselineItem(const QString& text);
 
     [[nodiscard]] QString introspect(const QString& path) const override;
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
@@ -21,7 +23,7 @@ public:
     void registerWithBar();
 
 private:
-    [[nodiscard]] static QVariantMap properties();
+    QVariantMap properties;
 };
 
 } // namespace tambrelle::baseline

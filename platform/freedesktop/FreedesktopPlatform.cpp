@@ -2,7 +2,6 @@
 
 #include "platform/freedesktop/AutostartLoginItem.h"
 #include "platform/freedesktop/Display.h"
-#include "platform/freedesktop/EventLoopTimer.h"
 #include "platform/freedesktop/IniUserDefaults.h"
 #include "platform/freedesktop/InstalledResources.h"
 #include "platform/freedesktop/PortalContrast.h"
@@ -15,6 +14,8 @@
 #include "platform/freedesktop/sound/SpawnedAudioPlayer.h"
 #include "platform/freedesktop/sound/ThemedSystemSound.h"
 #include "platform/freedesktop/statusitem/FreedesktopStatusItem.h"
+#include "platform/freedesktop/timer/ChoreTimer.h"
+#include "platform/freedesktop/timer/LoopTimer.h"
 
 #include <QCoreApplication>
 
@@ -29,7 +30,7 @@ struct FreedesktopPlatform::Parts {
 
     SystemClock clock;
     PolledWakeUp wakeUp{clock};
-    EventLoopTimer timer{[this] { wakeUp.poll(); }};
+    ChoreTimer timer{makeLoopTimer(), [this] { wakeUp.poll(); }};
     SystemRandomSource random;
     IniUserDefaults defaults{IniUserDefaults::standardPath()};
     InstalledResources resources;

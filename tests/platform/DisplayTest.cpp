@@ -31,6 +31,7 @@ protected:
     test::ScopedEnvironment platform{"QT_QPA_PLATFORM", QByteArray()};
     test::ScopedEnvironment x11{"DISPLAY", QByteArray()};
     test::ScopedEnvironment wayland{"WAYLAND_DISPLAY", QByteArray()};
+    test::ScopedEnvironment noSharedMemory{"QT_XCB_NO_MITSHM", QByteArray()};
     QTemporaryDir folder;
     test::ScopedEnvironment runtime{"XDG_RUNTIME_DIR", QFile::encodeName(folder.path())};
 };
@@ -113,6 +114,14 @@ TEST_F(DisplayTest, ArgumentsMayNameAnotherWay) {
     EXPECT_FALSE(hasDisplayWithOption("platform", "offscreen"));
     EXPECT_FALSE(hasDisplayWithOption("-platform", "xcb"));
     EXPECT_FALSE(hasDisplayWithOption("--platform", "wayland"));
+}
+
+TEST_F(DisplayTest, AnX11ServerIsSentItsPicturesUnlessTheUserSaysOtherwise) {
+    EXPECT_FALSE(hasDisplayWithoutArguments());
+    EXPECT_EQ(qgetenv("QT_XCB_NO_MITSHM"), "1");
+    const test::ScopedEnvironment chosen("QT_XCB_NO_MITSHM", "0");
+    EXPECT_FALSE(hasDisplayWithoutArguments());
+    EXPECT_EQ(qgetenv("QT_XCB_NO_MITSHM"), "0");
 }
 
 } // namespace

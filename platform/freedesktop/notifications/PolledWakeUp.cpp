@@ -26,7 +26,7 @@ void PolledWakeUp::disarm() {
     due = nullptr;
 }
 
-[[gnu::hot]] void PolledWakeUp::poll() {
+void PolledWakeUp::poll() {
     if (!due)
         return;
     const Instant now = clock.now();

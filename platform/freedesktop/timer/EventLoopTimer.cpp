@@ -1,10 +1,8 @@
-#include "platform/freedesktop/EventLoopTimer.h"
+#include "platform/freedesktop/timer/EventLoopTimer.h"
 
 #include <utility>
 
 namespace tambrelle {
-
-EventLoopTimer::EventLoopTimer(std::function<void()> beforeEach) : beforeEach(std::move(beforeEach)) {}
 
 void EventLoopTimer::start(std::chrono::milliseconds interval, std::function<void()> next) {
     action = std::move(next);
@@ -12,8 +10,7 @@ void EventLoopTimer::start(std::chrono::milliseconds interval, std::function<voi
     timer.start(static_cast<int>(interval.count()), Qt::PreciseTimer, this);
 }
 
-[[gnu::hot]] void EventLoopTimer::timerEvent(QTimerEvent* /*event*/) {
-    beforeEach();
+void EventLoopTimer::timerEvent(QTimerEvent* /*event*/) {
     action();
 }
 

@@ -9,23 +9,19 @@
 
 namespace tambrelle {
 
-/// A timer on the main thread's event loop, precise to the millisecond.
+/// A timer on the main thread's event loop, whatever that is made of; precise to the millisecond.
 class EventLoopTimer final : public QObject, public RepeatingTimer {
     Q_OBJECT
 
 public:
-    /// `beforeEach` is called ahead of each action, for what would otherwise need a timer of its own.
-    explicit EventLoopTimer(std::function<void()> beforeEach = [] {});
-
     void start(std::chrono::milliseconds interval, std::function<void()> next) override;
 
 protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    // By way of events: a signal would double what the toolkit does for each tick.
+    // By way of events: a signal would double what the toolkit does for each firing.
     QBasicTimer timer;
-    std::function<void()> beforeEach;
     std::function<void()> action;
 };
 
