@@ -13,7 +13,6 @@
 #include "platform/RepeatingTimer.h"
 #include "platform/UserDefaults.h"
 
-#include <QMetaObject>
 #include <QPointer>
 
 #include <chrono>

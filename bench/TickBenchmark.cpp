@@ -43,10 +43,7 @@ struct Ticking {
         platform.clock.beginZoneGeneration();
     }
 
-    void tick() {
-        platform.timer.fire();
-        QCoreApplication::sendPostedEvents();
-    }
+    void tick() const { platform.timer.fire(); }
 
     fakes::FakePlatform platform;
     SoundManager sound{{platform.defaults, platform.resources, platform.audioPlayer, platform.systemSound}};

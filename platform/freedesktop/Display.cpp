@@ -61,12 +61,10 @@ QByteArray namedPlatform(std::span<const char* const> arguments) {
     return qgetenv("QT_QPA_PLATFORM");
 }
 
-/// The toolkit would wait at each drawing until the X11 server has read the last one. What changes here is
-/// small: to send it costs less, and wakes nobody a second time.
+/// The toolkit would wait at each drawing until the X11 server has read the last one. What is drawn
+/// here is most often a few digits: to send them costs less, and wakes nobody a second time.
 void shareNoMemory() {
-    constexpr const char* setting = "QT_XCB_NO_MITSHM";
-    if (!qEnvironmentVariableIsSet(setting))
-        qputenv(setting, "1");
+    qputenv("QT_XCB_NO_MITSHM", "1");
 }
 
 void redrawAll() {

@@ -15,7 +15,7 @@
 #include "platform/freedesktop/sound/ThemedSystemSound.h"
 #include "platform/freedesktop/statusitem/FreedesktopStatusItem.h"
 #include "platform/freedesktop/timer/ChoreTimer.h"
-#include "platform/freedesktop/timer/LoopTimer.h"
+#include "platform/freedesktop/timer/TickTimer.h"
 
 #include <QCoreApplication>
 
@@ -30,7 +30,7 @@ struct FreedesktopPlatform::Parts {
 
     SystemClock clock;
     PolledWakeUp wakeUp{clock};
-    ChoreTimer timer{makeLoopTimer(), [this] { wakeUp.poll(); }};
+    ChoreTimer timer{makeTickTimer(), [this] { wakeUp.poll(); }};
     SystemRandomSource random;
     IniUserDefaults defaults{IniUserDefaults::standardPath()};
     InstalledResources resources;

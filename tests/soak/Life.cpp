@@ -48,7 +48,7 @@ E anyCase(Chance& chance) {
     return cases[static_cast<std::size_t>(chance.between(0, static_cast<std::int64_t>(cases.size()) - 1))];
 }
 
-/// The event loop's turn with the tick, and the next one with the refresh that the tick asked for.
+/// The event loop's turn after a tick, and the next one with what that turn asked for.
 void runTwoTurns() {
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents();

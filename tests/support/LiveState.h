@@ -47,7 +47,7 @@ protected:
         launched.reset();
     }
 
-    /// One firing of the timer at this instant, with the tick that it queues.
+    /// One firing of the timer at this instant, with what it queues.
     void tickAt(Instant instant) {
         platform.clock.set(instant);
         platform.timer.fire();

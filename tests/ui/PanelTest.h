@@ -44,7 +44,7 @@ protected:
         return *panel;
     }
 
-    /// One firing of the timer, with the tick and the refresh that it queues.
+    /// One firing of the timer, with what it queues.
     void tick(Instant::duration by) {
         state->platform.clock.advance(by);
         state->platform.timer.fire();

@@ -26,7 +26,7 @@ void PolledWakeUp::disarm() {
     due = nullptr;
 }
 
-void PolledWakeUp::poll() {
+[[gnu::hot]] void PolledWakeUp::poll() {
     if (!due)
         return;
     const Instant now = clock.now();

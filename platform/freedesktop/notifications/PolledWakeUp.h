@@ -6,7 +6,7 @@ namespace tambrelle {
 
 class Clock;
 
-/// Looks at the clock with the ticks of a timer that runs anyway, and so wakes the program for nothing of its
+/// Looks at the clock with each tick of a timer that runs anyway, and so wakes the program for nothing of its
 /// own.
 class PolledWakeUp final : public WakeUp {
 public:
@@ -15,7 +15,7 @@ public:
     void arm(Instant next, std::function<void()> onDue) override;
     void disarm() override;
 
-    /// To be called every few seconds, and by nothing that `due` may destroy.
+    /// To be called about once a second, and by nothing that `due` may destroy.
     void poll();
 
 private:

@@ -11,7 +11,7 @@ class WakeUp {
 public:
     virtual ~WakeUp() = default;
 
-    /// `due` is called when the clock shows `instant` or later: within ten seconds when time passes as usual,
+    /// `due` is called when the clock shows `instant` or later: within a second when time passes as usual,
     /// and within a minute after sleep or a jump of the clock. It may be called early, so that its owner
     /// looks again at what the zone has become. Replaces what was armed before; armed once, called until
     /// disarmed.

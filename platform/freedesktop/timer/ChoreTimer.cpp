@@ -13,11 +13,7 @@ void ChoreTimer::start(std::chrono::milliseconds interval, std::function<void()>
 }
 
 [[gnu::hot]] void ChoreTimer::fire() {
-    if (actionsToChore == 0) {
-        actionsToChore = actionsPerChore;
-        chore();
-    }
-    --actionsToChore;
+    chore();
     action();
 }
 

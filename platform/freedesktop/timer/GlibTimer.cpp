@@ -9,7 +9,7 @@ namespace tambrelle {
 
 namespace {
 
-gboolean dispatch(GSource* /*source*/, GSourceFunc callback, gpointer data) {
+[[gnu::hot]] gboolean dispatch(GSource* /*source*/, GSourceFunc callback, gpointer data) {
     return callback(data);
 }
 
@@ -44,12 +44,16 @@ void GlibTimer::start(std::chrono::milliseconds each, std::function<void()> next
     g_source_attach(source.get(), nullptr);
 }
 
+[[gnu::hot]] std::chrono::microseconds GlibTimer::nextDue(std::chrono::microseconds due,
+                                                          std::chrono::microseconds now,
+                                                          std::chrono::microseconds interval) {
+    const auto next = due + interval;
+    return next > now ? next : now + interval;
+}
+
 [[gnu::hot]] void GlibTimer::fire() {
-    const std::chrono::microseconds now{g_source_get_time(source.get())};
-    due += interval;
-    // After a pause once, not once for each firing that was missed.
-    if (due <= now)
-        due = now + interval;
+    due = nextDue(due, std::chrono::microseconds{g_source_get_time(source.get())}, interval);
+    // Within the firing, for which GLib sets the source aside: elsewhere this would wake the loop.
     g_source_set_ready_time(source.get(), due.count());
     action();
 }

@@ -11,8 +11,7 @@ struct _GSource;
 namespace tambrelle {
 
 /// A timer on GLib's main loop, precise to the millisecond. Where the toolkit's event loop is made of that
-/// one, to be called by it directly costs a tenth of a short action less than to be sent the toolkit's
-/// events.
+/// loop, a firing costs less than one of the toolkit's timers, which comes as an event.
 class GlibTimer final : public RepeatingTimer {
 public:
     GlibTimer() = default;
@@ -25,6 +24,11 @@ public:
     [[nodiscard]] static bool isServed();
 
     void start(std::chrono::milliseconds interval, std::function<void()> next) override;
+
+    /// When to fire again after the firing that was `due`, and comes `now`: an interval later, however late
+    /// it comes, and after a pause once, not once for each firing that was missed.
+    [[nodiscard]] static std::chrono::microseconds
+    nextDue(std::chrono::microseconds due, std::chrono::microseconds now, std::chrono::microseconds interval);
 
 private:
     void fire();

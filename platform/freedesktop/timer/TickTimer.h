@@ -7,6 +7,6 @@ namespace tambrelle {
 class RepeatingTimer;
 
 /// The timer that costs least on the main thread's event loop. Needs the toolkit's application object.
-[[nodiscard]] std::unique_ptr<RepeatingTimer> makeLoopTimer();
+[[nodiscard]] std::unique_ptr<RepeatingTimer> makeTickTimer();
 
 } // namespace tambrelle
