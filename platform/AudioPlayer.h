@@ -15,7 +15,7 @@ public:
     virtual ~AudioPlayer() = default;
 
     /// Starts to play `file` (mp3, m4a or wav) at `volume` (0 to 1 of the file's own level). A sound that
-    /// still plays gives way to it.
+    /// still plays gives way to it as soon as the file has been opened.
     virtual void play(const QString& file, double volume, Failure onFailure) = 0;
 };
 

@@ -1,7 +1,7 @@
 // tambrelle-player VOLUME FILE: plays one sound file (mp3, m4a, wav and what else the libraries know) at
-// VOLUME (0 to 1 of the file's own level) and ends with it. Status 1 and one line on standard error when the
-// file can't be opened or decoded, 2 when called wrongly, else 0: a sound server that is absent or hangs is
-// no fault of the file.
+// VOLUME (0 to 1 of the file's own level) and ends with it. A line on standard output says that the file has
+// been opened and its sound begins. Status 1 and one line on standard error when the file can't be opened or
+// decoded, 2 when called wrongly, else 0: a sound server that is absent or hangs is no fault of the file.
 
 #include "player/Deadline.h"
 #include "player/Playback.h"
@@ -52,8 +52,11 @@ int main(int argc, char** argv) {
     try {
         const Sound sound = readSoundFile(argv[2]);
         endProcessAfter(lengthOf(sound) + patience);
-        if (!terminationRequested())
-            play(sound, *volume, terminationRequested);
+        if (terminationRequested())
+            return EXIT_SUCCESS;
+        std::puts("playing");
+        std::fflush(stdout);
+        play(sound, *volume, terminationRequested);
         return EXIT_SUCCESS;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s: %s\n", argv[2], error.what());

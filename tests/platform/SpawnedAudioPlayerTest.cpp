@@ -33,6 +33,12 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
+    /// Of the player of this file, once it runs.
+    [[nodiscard]] pid_t processOf(const QString& file) const {
+        EXPECT_TRUE(test::waitUntil([&] { return !content(file).isEmpty(); }));
+        return content(file).trimmed().toInt();
+    }
+
     AudioPlayer::Failure remember() {
         return [this](const QString& error) { errors.push_back(error); };
     }
@@ -40,6 +46,9 @@ protected:
     QTemporaryDir folder;
     std::vector<QString> errors;
 };
+
+/// Leaves its number under the file's name, and begins with a long sound.
+constexpr const char* playing = "echo $$ >\"$2.new\"; mv \"$2.new\" \"$2\"; echo playing; exec sleep 60";
 
 /// Whether a process is there, as a zombie too.
 bool exists(pid_t process) {
@@ -86,12 +95,12 @@ TEST_F(SpawnedAudioPlayerTest, TellsOfEveryStatusButSuccess) {
     }
 }
 
-TEST_F(SpawnedAudioPlayerTest, TellsOnlyOfTheLastSoundThatItFailed) {
+TEST_F(SpawnedAudioPlayerTest, TellsOfEachSoundThatItFailed) {
     SpawnedAudioPlayer player(folder.filePath(QStringLiteral("nowhere")));
     player.play(QStringLiteral("a.mp3"), 0.6, remember());
     player.play(QStringLiteral("b.mp3"), 0.6, remember());
     EXPECT_TRUE(test::waitUntil([&] { return player.children().isEmpty(); })) << "a process is left over";
-    EXPECT_EQ(errors.size(), 1U);
+    EXPECT_EQ(errors.size(), 2U);
 }
 
 TEST_F(SpawnedAudioPlayerTest, SaysNothingWhenTheSoundHasPlayed) {
@@ -112,25 +121,53 @@ TEST_F(SpawnedAudioPlayerTest, DoesNotWaitForAPlayerThatHangs) {
 }
 
 TEST_F(SpawnedAudioPlayerTest, LetsTheLastSoundReplaceTheOneThatPlays) {
-    SpawnedAudioPlayer player(script("echo $$ >\"$2.new\"; mv \"$2.new\" \"$2\"; exec sleep 60"));
+    SpawnedAudioPlayer player(script(playing));
     player.play(QStringLiteral("first"), 0.6, remember());
-    ASSERT_TRUE(test::waitUntil([&] { return !content("first").isEmpty(); }));
-    const pid_t first = content("first").trimmed().toInt();
+    const pid_t first = processOf("first");
     ASSERT_TRUE(exists(first));
     player.play(QStringLiteral("second"), 0.6, remember());
-    EXPECT_TRUE(test::waitUntil([&] { return !exists(first) && !content("second").isEmpty(); }));
-    EXPECT_TRUE(exists(content("second").trimmed().toInt()));
+    EXPECT_TRUE(test::waitUntil([&] { return !exists(first); }));
+    EXPECT_TRUE(exists(processOf("second")));
     EXPECT_TRUE(errors.empty());
     EXPECT_TRUE(test::waitUntil([&] { return player.children().size() == 1; }));
+}
+
+TEST_F(SpawnedAudioPlayerTest, LetsASoundPlayOnWhereTheNextCannotBeOpened) {
+    SpawnedAudioPlayer player(script(QByteArray("[ \"$2\" = damaged ] && exit 1\n") + playing));
+    player.play(QStringLiteral("first"), 0.6, remember());
+    const pid_t first = processOf("first");
+    player.play(QStringLiteral("damaged"), 0.6, remember());
+    EXPECT_TRUE(test::waitUntil([&] { return errors.size() == 1; }));
+    EXPECT_TRUE(test::waitUntil([&] { return player.children().size() == 1; }));
+    EXPECT_TRUE(exists(first));
+}
+
+TEST_F(SpawnedAudioPlayerTest, ASoundThatIsSlowToOpenDoesNotReplaceALaterOne) {
+    SpawnedAudioPlayer player(
+        script(QByteArray("[ \"$2\" = damaged ] && exit 1\n"
+                          "[ \"$2\" = slow ] && trap '' TERM\n"
+                          "[ \"$2\" = quick ] || until [ -e late ]; do sleep 0.05; done\n"
+                          "[ \"$2\" = slow ] && echo playing && exit\n") +
+               playing));
+    player.play(QStringLiteral("slow"), 0.6, remember());
+    player.play(QStringLiteral("quick"), 0.6, remember());
+    const pid_t quick = processOf("quick");
+    QFile late(folder.filePath(QStringLiteral("late")));
+    ASSERT_TRUE(late.open(QIODevice::WriteOnly));
+    EXPECT_TRUE(test::waitUntil([&] { return player.children().size() == 1; }));
+    // Time enough for a wrong end of the quick one to be noticed.
+    player.play(QStringLiteral("damaged"), 0.6, remember());
+    EXPECT_TRUE(test::waitUntil([&] { return errors.size() == 1; }));
+    EXPECT_TRUE(exists(quick));
 }
 
 TEST_F(SpawnedAudioPlayerTest, SilencesTheSoundAtItsEnd) {
     pid_t process = 0;
     {
-        SpawnedAudioPlayer player(script("echo $$ >\"$2.new\"; mv \"$2.new\" \"$2\"; exec sleep 60"));
+        SpawnedAudioPlayer player(script(playing));
         player.play(QStringLiteral("first"), 0.6, remember());
-        ASSERT_TRUE(test::waitUntil([&] { return !content("first").isEmpty(); }));
-        process = content("first").trimmed().toInt();
+        process = processOf("first");
+        ASSERT_TRUE(exists(process));
     }
     EXPECT_FALSE(exists(process));
     EXPECT_TRUE(errors.empty());

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QProcess>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -32,7 +33,7 @@ QString reasonOf(QProcess& player, int status, QProcess::ExitStatus ending) {
 SpawnedAudioPlayer::SpawnedAudioPlayer(const QString& program) : program(program) {}
 
 SpawnedAudioPlayer::~SpawnedAudioPlayer() {
-    silence();
+    silenceBefore(nullptr);
     // A killed process is gone at once; the wait takes note of it, and the limit is for one that the kernel
     // holds.
     for (QProcess* const player : findChildren<QProcess*>())
@@ -48,9 +49,8 @@ QString SpawnedAudioPlayer::standardProgram() {
 }
 
 void SpawnedAudioPlayer::play(const QString& file, double volume, Failure onFailure) {
-    silence();
     auto* const player = new QProcess(this);
-    sounding = player;
+    wanted.push_back(player);
     // The chime is the calendar's and ends with it, also where the calendar is gone before the player has
     // begun.
     player->setChildProcessModifier([calendar = ::getpid()] {
@@ -59,13 +59,16 @@ void SpawnedAudioPlayer::play(const QString& file, double volume, Failure onFail
             ::_exit(EXIT_SUCCESS);
     });
     player->setStandardInputFile(QProcess::nullDevice());
-    player->setStandardOutputFile(QProcess::nullDevice());
     // Of a sound that has been replaced only the end is noted: the failure has lost its meaning.
     const auto end = [this, player, onFailure](const QString& reason) {
         player->deleteLater();
-        if (sounding == player && !reason.isEmpty())
+        if (forget(player) && !reason.isEmpty())
             onFailure(reason);
     };
+    connect(player, &QProcess::readyReadStandardOutput, this, [this, player] {
+        player->readAllStandardOutput();
+        silenceBefore(player);
+    });
     // Queued: a program that can't be started may say so from within start().
     connect(
         player, &QProcess::errorOccurred, this,
@@ -80,12 +83,18 @@ void SpawnedAudioPlayer::play(const QString& file, double volume, Failure onFail
     player->start(program, {QString::number(volume), file});
 }
 
-void SpawnedAudioPlayer::silence() {
-    if (!sounding)
+void SpawnedAudioPlayer::silenceBefore(const QProcess* player) {
+    const auto from = std::find(wanted.begin(), wanted.end(), player);
+    // It has given way to a later one.
+    if (player != nullptr && from == wanted.end())
         return;
     // Asked rather than killed: sound servers take the sudden death of a client badly.
-    sounding->terminate();
-    sounding.clear();
+    std::for_each(wanted.begin(), from, [](QProcess* former) { former->terminate(); });
+    wanted.erase(wanted.begin(), from);
+}
+
+bool SpawnedAudioPlayer::forget(const QProcess* player) {
+    return std::erase(wanted, player) > 0;
 }
 
 } // namespace tambrelle

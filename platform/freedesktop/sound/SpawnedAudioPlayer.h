@@ -3,7 +3,8 @@
 #include "platform/AudioPlayer.h"
 
 #include <QObject>
-#include <QPointer>
+
+#include <deque>
 
 class QProcess;
 
@@ -13,8 +14,9 @@ namespace tambrelle {
 /// sound server can hold it up.
 class SpawnedAudioPlayer final : public QObject, public AudioPlayer {
 public:
-    /// `program` is called with the volume and the file; it ends with another status than 0, and a line on
-    /// standard error, when the file can't be opened or decoded.
+    /// `program` is called with the volume and the file. It writes a line to standard output when it begins
+    /// with the sound; it ends with another status than 0, and a line on standard error, when the file can't
+    /// be opened or decoded.
     explicit SpawnedAudioPlayer(const QString& program);
     /// Silences what still plays.
     ~SpawnedAudioPlayer() override;
@@ -25,10 +27,12 @@ public:
     void play(const QString& file, double volume, Failure onFailure) override;
 
 private:
-    void silence();
+    void silenceBefore(const QProcess* player);
+    /// Whether the player was still wanted.
+    bool forget(const QProcess* player);
 
     QString program;
-    QPointer<QProcess> sounding;
+    std::deque<QProcess*> wanted; ///< neither ended nor replaced, in the order of their starts
 };
 
 } // namespace tambrelle
