@@ -5,11 +5,14 @@ import pathlib
 import re
 
 from harness import DesktopTest, main, until
+from harness.eyes import PANEL_HEIGHT
 from harness.moments import LINE, NOON, TWO_TICKS
 
 BACK_WITHIN = 2.0
 SAMPLES = 16
 MOST_AIR = 16  # pixels, left and right together
+LINE_HEIGHT = 16  # logical pixels, without the label's margins
+LEAST_SIDE = 16
 
 
 class Item(DesktopTest):
@@ -108,6 +111,30 @@ class Docked(DesktopTest):
                      if any(picture[x, y] != ground for y in range(3, window.height - 3))]
             return window.width - (inked[-1] - inked[0]) if inked else 0
         return 0
+
+
+class TooLow(DesktopTest):
+    """For hosts whose tray holds the line itself, in a row lower than the line is at twice its size."""
+
+    def test_the_icon_takes_its_place_and_the_line_floats(self):
+        self.desktop.clock.set(NOON)
+        program = self.start_program(environment={"QT_SCALE_FACTOR": "2"})
+        icon = until("the tray holds a square", lambda: self.square(program))
+        self.assertGreaterEqual(icon.height, LEAST_SIDE)
+        picture = self.desktop.picture().cropped(icon.x, icon.y, icon.width, icon.height)
+        self.assertGreater(len(picture.colours()), 2, "nothing is drawn there")
+        until("the line floats whole", lambda: self.floats(program, 2 * LINE_HEIGHT))
+        self.desktop.click(icon.x + icon.width // 2, icon.y + icon.height // 2)
+        until("a click on the icon has opened the panel", lambda: self.floats(program, PANEL_HEIGHT))
+
+    def square(self, program):
+        windows = self.desktop.docked_windows(program)
+        return windows[0] if len(windows) == 1 and windows[0].width == windows[0].height else None
+
+    def floats(self, program, height):
+        """A window of the program of that height or more is outside the bar."""
+        return any(not window.docked and window.height >= height
+                   for window in self.desktop.x11.windows_of(program.pid))
 
 
 class Return(DesktopTest):

@@ -44,6 +44,35 @@ TEST(MeasuredLineTest, DrawsASymbolWithoutColoursOfItsOwnInTheInk) {
     EXPECT_GT(brightest(drawn("\u0416")), 200);
 }
 
+/// The pixels that are not of the ground, where the line has only `height`.
+int inked(MeasuredLine& line, int height, double ratio) {
+    const QSize room(line.size().width(), height);
+    QImage image((QSizeF(room) * ratio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    painter.setPen(Qt::white);
+    line.draw(painter, QRect(QPoint(0, 0), room));
+    painter.end();
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixel(x, y) != qRgb(0, 0, 0) ? 1 : 0;
+    }
+    return count;
+}
+
+TEST(MeasuredLineTest, IsWholeInItsLeastHeight) {
+    MeasuredLine line;
+    EXPECT_EQ(line.leastHeight(), 0);
+    line.setText(QStringLiteral("🍇 7 Vendémiaire · Septidi · 5:00"));
+    for (const double ratio : {1.0, 1.25, 2.0}) {
+        const int whole = inked(line, 2 * line.size().height(), ratio);
+        EXPECT_EQ(inked(line, line.leastHeight(), ratio), whole) << ratio;
+        EXPECT_LT(inked(line, line.leastHeight() - 5, ratio), whole) << ratio;
+    }
+}
+
 // The symbol alone, which is kept as a picture.
 TEST(MeasuredLineTest, FollowsTheInkAndTheScale) {
     const Paint inverse{.ink = Qt::black, .ground = Qt::white};

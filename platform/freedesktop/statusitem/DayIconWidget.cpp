@@ -21,7 +21,13 @@ DayIconWidget::DayIconWidget() : QWidget(nullptr, Qt::FramelessWindowHint | Qt::
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_QuitOnClose, false);
-    resize(wantedSide, wantedSide);
+    setSide(wantedSide);
+}
+
+void DayIconWidget::setSide(int side) {
+    // Some bars give a window what it calls its least, and nothing where it names none.
+    setMinimumSize(side, side);
+    resize(side, side);
 }
 
 void DayIconWidget::setDay(std::int64_t number, const QString& line) {

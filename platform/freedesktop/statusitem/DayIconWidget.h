@@ -16,6 +16,8 @@ public:
 
     /// `line` is what shows under the pointer and what a screen reader reads.
     void setDay(std::int64_t day, const QString& line);
+    /// Asks the bar for a square of this side, logical pixels.
+    void setSide(int side);
 
 signals:
     void clicked(QPoint position);

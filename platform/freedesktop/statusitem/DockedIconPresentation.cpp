@@ -2,17 +2,21 @@
 
 #include "platform/freedesktop/statusitem/TrayManager.h"
 
+#include <algorithm>
+
 namespace tambrelle {
 
+namespace {
+
+/// Smaller nobody would take it for a calendar, nor hit it, logical pixels.
+constexpr int leastSide = 8;
+
+} // namespace
+
 DockedIconPresentation::DockedIconPresentation(const TrayManager& tray, QObject* parent)
-    : Presentation(parent), dock(tray, icon) {
+    : Presentation(parent), tray(tray), dock(tray, icon) {
     connect(&icon, &DayIconWidget::clicked, this, &Presentation::activated);
-    connect(&dock, &TrayDock::settled, this, [this, &tray](std::optional<QSize> granted) {
-        if (!granted)
-            emit refused();
-        else if (const auto bar = tray.barAround(static_cast<std::uint32_t>(icon.winId())))
-            emit settledIn(*bar);
-    });
+    connect(&dock, &TrayDock::settled, this, &DockedIconPresentation::judge);
 }
 
 void DockedIconPresentation::present(const StatusItemContent& content) {
@@ -20,6 +24,20 @@ void DockedIconPresentation::present(const StatusItemContent& content) {
     if (!docked)
         dock.settle();
     docked = true;
+}
+
+void DockedIconPresentation::judge(std::optional<QSize> granted) {
+    const int side = granted ? std::min(granted->width(), granted->height()) : 0;
+    if (side < leastSide) {
+        emit refused();
+    } else if (granted->width() != granted->height() && !cutToTheRow) {
+        // The bar is lower than what was asked for. Only once, lest bar and icon go on correcting each other.
+        cutToTheRow = true;
+        icon.setSide(side);
+        dock.settle();
+    } else if (const auto bar = tray.barAround(static_cast<std::uint32_t>(icon.winId()))) {
+        emit settledIn(*bar);
+    }
 }
 
 } // namespace tambrelle

@@ -6,7 +6,8 @@
 
 namespace tambrelle {
 
-/// The square icon as a window of ours inside the bar. Refused where the bar does not take it.
+/// The square icon as a window of ours inside the bar. Refused where the bar does not take it or leaves it
+/// next to nothing.
 class DockedIconPresentation final : public Presentation {
     Q_OBJECT
 
@@ -21,9 +22,13 @@ signals:
     void settledIn(QRect bar);
 
 private:
+    void judge(std::optional<QSize> granted);
+
+    const TrayManager& tray;
     DayIconWidget icon;
     TrayDock dock;
     bool docked = false;
+    bool cutToTheRow = false;
 };
 
 } // namespace tambrelle

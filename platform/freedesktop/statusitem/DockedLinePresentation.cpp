@@ -25,6 +25,10 @@ void DockedLinePresentation::present(const StatusItemContent& content) {
 
 void DockedLinePresentation::judge(std::optional<QSize> granted) {
     const QSize needed = label.lineSize();
+    if (granted && granted->height() < label.leastHeight()) {
+        emit refused();
+        return;
+    }
     const bool tooNarrow = !granted || granted->width() < needed.width();
     if (!tooNarrow && fit == Fit::natural && granted->width() > needed.width() &&
         granted->height() > needed.height()) {

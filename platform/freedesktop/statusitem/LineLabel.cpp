@@ -4,6 +4,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <cmath>
+
 namespace tambrelle {
 
 LineLabel::LineLabel(Qt::WindowFlags flags) : QLabel(nullptr, flags) {
@@ -36,8 +38,11 @@ void LineLabel::setPaper(const QColor& ground, const QColor& edge) {
 void LineLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     if (paper.isValid()) {
-        painter.fillRect(rect(), paperEdge);
-        painter.fillRect(rect().adjusted(1, 1, -1, -1), paper);
+        // Of whole device pixels, or its sides would differ at fractional scales.
+        const double edge = std::floor(devicePixelRatioF()) / devicePixelRatioF();
+        const QRectF slip = rect();
+        painter.fillRect(slip, paperEdge);
+        painter.fillRect(slip.adjusted(edge, edge, -edge, -edge), paper);
     }
     painter.setPen(palette().color(QPalette::WindowText));
     line.draw(painter, contentsRect());

@@ -20,6 +20,8 @@ public:
     void setLine(const QString& text);
     /// What the line needs, logical pixels; the label itself may have been made larger or smaller.
     [[nodiscard]] QSize lineSize() const { return line.size(); }
+    /// The least height in which the line is not cut, logical pixels.
+    [[nodiscard]] int leastHeight() const { return line.leastHeight(); }
     /// The colour of the text; emoji keep their own. Until it is called, that of the desktop's windows.
     void setInk(const QColor& color);
     /// Lays the line on a slip of paper of its own; without one it stands on whatever is behind the window.

@@ -46,6 +46,10 @@ void MeasuredLine::useFont(const QFont& font) {
     const QFontMetricsF metrics(font);
     space = metrics.horizontalAdvance(QLatin1Char(' '));
     lineHeight = static_cast<int>(std::ceil(metrics.height()));
+    const double middle = lineHeight / 2.0;
+    const double up = middle - (metrics.ascent() - metrics.capHeight());
+    const double down = metrics.ascent() + metrics.descent() - middle;
+    inkHeight = static_cast<int>(std::ceil(2 * std::max(up, down)));
     beginning = {};
     characters.clear();
 }
@@ -77,6 +81,10 @@ QSize MeasuredLine::size() const {
     if (!emoji)
         return {0, 0};
     return {width() + 2 * LineStyle::padding, std::max(lineHeight, emoji->size().height())};
+}
+
+int MeasuredLine::leastHeight() const {
+    return emoji ? std::max(inkHeight, emoji->size().height()) : 0;
 }
 
 void MeasuredLine::draw(QPainter& painter, const QRect& place) {

@@ -27,6 +27,10 @@ public:
     /// What the line takes with its padding, logical pixels; nothing before there is a text.
     [[nodiscard]] QSize size() const;
 
+    /// The least height that leaves it whole, logical pixels: a line of text has air above and below its
+    /// letters that may be missing. Nothing before there is a text.
+    [[nodiscard]] int leastHeight() const;
+
     /// Draws it in the painter's pen, in the middle of `place`.
     void draw(QPainter& painter, const QRect& place);
 
@@ -40,6 +44,7 @@ private:
     QFont textFont;
     double space = 0; ///< the width of one, as before the last word; 0 while there is no font
     int lineHeight = 0;
+    int inkHeight = 0; ///< twice what letters reach up or down from the middle of the line
     QStaticText beginning;
     std::vector<QStaticText> lastWord;
     QHash<QChar, QStaticText> characters; ///< all that have been shown in this font
