@@ -8,7 +8,7 @@ packages_of() {
     case $1 in
     build) # compiler, build tools, libraries, and what the built program needs at run time
         echo g++ cmake ninja-build pkg-config ca-certificates git
-        echo qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' libxcb1-dev libglib2.0-dev libpng-dev zlib1g-dev
+        echo qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' libxcb1-dev libglib2.0-dev libfontconfig-dev libpng-dev zlib1g-dev
         echo libavformat-dev libavcodec-dev libavutil-dev libswresample-dev libpulse-dev
         echo qt6-wayland qt6-qpa-plugins 'libqt6svg6|libqt6svg6t64'
         echo fonts-dejavu-core fonts-noto-color-emoji tzdata

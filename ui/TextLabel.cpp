@@ -135,6 +135,9 @@ const TextLabel::Setting& TextLabel::setIn(int width) const {
 
 TextLabel::Setting TextLabel::wrapped(int width) const {
     Setting setting{.width = width, .font = plainFont, .lines = {}};
+    // It has no font of its own yet, and one more to load takes time.
+    if (shownText.isEmpty())
+        return setting;
     const QString text = fit.lines == 1 ? shownText : withoutWidow(shownText);
     QTextLayout layout(text, plainFont);
     QTextOption option;

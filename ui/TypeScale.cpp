@@ -11,6 +11,14 @@ namespace {
 /// The resolution at which a desktop that scales no text reports its screens.
 constexpr double unscaledDotsPerInch = 96;
 
+/// By the name of the installed font, where it is known that the font's own is an alias: for that the toolkit
+/// would look through all fonts, for each style anew.
+QFont byInstalledName(QFont font) {
+    if (const QStringList installed = QFont::substitutes(font.family()); !installed.isEmpty())
+        font.setFamilies(installed);
+    return font;
+}
+
 QFont designed(TypeStyle::Design design) {
     switch (design) {
     case TypeStyle::Design::standard:
@@ -41,7 +49,7 @@ int scaledByText(int length) {
 }
 
 QFont font(const TypeStyle& style) {
-    QFont font = designed(style.design);
+    QFont font = byInstalledName(designed(style.design));
     font.setPixelSize(scaledByText(style.size));
     font.setWeight(style.weight);
     font.setItalic(style.italic);

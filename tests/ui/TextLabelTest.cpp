@@ -214,5 +214,25 @@ TEST(TypeScaleTest, FiguresStandStill) {
     }
 }
 
+TEST(TextLabelTest, TakesNoRoomBeforeItHasAText) {
+    TextLabel label(TypeScale::body, Ink::primary);
+    EXPECT_EQ(label.sizeHint(), QSize(0, 0));
+    label.setText("5:00");
+    EXPECT_GT(label.sizeHint().height(), 0);
+}
+
+TEST(TypeScaleTest, NamesTheInstalledFontThatAnAliasStandsFor) {
+    const QString alias = QStringLiteral("serif");
+    const QStringList before = QFont::substitutes(alias);
+    QFont::removeSubstitutions(alias);
+    EXPECT_EQ(font(TypeScale::slogan).family(), alias);
+    const QStringList installed{QStringLiteral("some antiqua"), QStringLiteral("some emoji")};
+    QFont::insertSubstitutions(alias, installed);
+    EXPECT_EQ(font(TypeScale::slogan).families(), installed);
+    EXPECT_TRUE(font(TypeScale::slogan).italic());
+    QFont::removeSubstitutions(alias);
+    QFont::insertSubstitutions(alias, before);
+}
+
 } // namespace
 } // namespace tambrelle

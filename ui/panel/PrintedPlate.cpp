@@ -2,6 +2,8 @@
 
 #include "ui/Ink.h"
 
+#include <QFile>
+#include <QImageReader>
 #include <QPainter>
 #include <QWidget>
 
@@ -24,11 +26,25 @@ QImage composedPicture(const QImage& plate, const PictureFrame& frame) {
     return image;
 }
 
+namespace {
+
+QImage decodedFrom(const QString& file) {
+    QFile source(file);
+    // The toolkit warns of a name that is empty.
+    if (file.isEmpty() || !source.open(QIODevice::ReadOnly))
+        return {};
+    // To guess the format, it would load the plugins of all others.
+    QImageReader reader(&source, "png");
+    reader.setAutoDetectImageFormat(false);
+    return reader.read();
+}
+
+} // namespace
+
 void PrintedPlate::setFile(const QString& next) {
     if (next == file)
         return;
-    // The toolkit warns of a name that is empty.
-    decoded = next.isEmpty() ? QImage() : QImage(next);
+    decoded = decodedFrom(next);
     file = decoded.isNull() ? QString() : next;
     print = {};
     printedFor.reset();
@@ -37,7 +53,7 @@ void PrintedPlate::setFile(const QString& next) {
 const QPixmap& PrintedPlate::printed(const PictureFrame& frame) {
     if (printedFor != frame) {
         if (decoded.isNull())
-            decoded = QImage(file);
+            decoded = decodedFrom(file);
         print = QPixmap::fromImage(composedPicture(decoded, frame));
         printedFor = frame;
         decoded = {};
