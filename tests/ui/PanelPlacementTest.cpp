@@ -41,11 +41,17 @@ TEST(PanelPlacementTest, ItsRoomEndsBeforeTheClick) {
     const QRect available(0, 0, 1366, 768);
     for (const QPoint click : {QPoint(1200, 19), QPoint(1200, 750)}) {
         const PanelPlacement placement{.click = click, .available = available, .top = {}};
-        EXPECT_FALSE(placement.place({320, placement.room()}).contains(click)) << click.y();
-        EXPECT_GT(placement.room(), 700);
+        EXPECT_FALSE(placement.place({320, placement.room(500)}).contains(click)) << click.y();
+        EXPECT_GT(placement.room(500), 700);
     }
     const PanelPlacement underABar{.click = {700, 13}, .available = {0, 26, 1366, 742}, .top = {}};
-    EXPECT_EQ(underABar.room(), 741);
+    EXPECT_EQ(underABar.room(500), 741);
+}
+
+TEST(PanelPlacementTest, ItsRoomIsTheScreenWhereItCoversTheClickInAnyCase) {
+    const PanelPlacement middle{.click = {700, 380}, .available = {0, 26, 1366, 742}, .top = {}};
+    EXPECT_EQ(middle.room(500), 742);
+    EXPECT_EQ(middle.room(374), 374);
 }
 
 TEST(PanelPlacementTest, StaysOnTheScreenAtEveryEdge) {

@@ -114,6 +114,16 @@ TEST_F(PanelWindowTest, IsWhollyOnTheScreenAtEveryEdge) {
     }
 }
 
+TEST_F(PanelWindowTest, KeepsItsPictureWhereItCoversTheClickInAnyCase) {
+    make(test::anItemAndNoEvent);
+    toggle(screen().topLeft());
+    const int height = window->height();
+    ASSERT_LT(height, screen().height());
+    toggle(screen().topLeft());
+    toggle(screen().center());
+    EXPECT_EQ(window->height(), height);
+}
+
 TEST_F(PanelWindowTest, ScrollsWhereTheScreenIsTooLow) {
     make(test::anItemAndAnEvent);
     PanelSnapshot tall =

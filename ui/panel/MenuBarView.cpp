@@ -130,6 +130,12 @@ QSize MenuBarView::sizeHint() const {
     return {width, layout()->heightForWidth(width)};
 }
 
+int MenuBarView::leastHeight() const {
+    const bool pictured = !dailyItem->isHidden();
+    return sizeHint().height() -
+           (pictured ? dailyItem->pictureHeight() - PanelMetrics::leastPictureHeight : 0);
+}
+
 void MenuBarView::setRoom(int height) {
     if (height == room)
         return;

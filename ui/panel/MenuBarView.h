@@ -53,6 +53,9 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
 
+    /// How tall it is with the picture at its least height, logical pixels.
+    [[nodiscard]] int leastHeight() const;
+
 signals:
     void settingsRequested();
     void quitRequested();

@@ -16,11 +16,11 @@ bool PanelPlacement::isAbove() const {
     return click.y() > available.center().y();
 }
 
-int PanelPlacement::room() const {
+int PanelPlacement::room(int least) const {
     const int end = available.y() + available.height();
     const int free =
         isAbove() ? click.y() - clickClearance - available.y() : end - click.y() - clickClearance;
-    return std::min(free, available.height());
+    return free < least ? available.height() : std::min(free, available.height());
 }
 
 QRect PanelPlacement::place(QSize panel) const {

@@ -17,8 +17,9 @@ struct PanelPlacement {
     /// clicks it again and again.
     std::optional<int> top;
 
-    /// How tall the panel may be without covering the click.
-    [[nodiscard]] int room() const;
+    /// How tall the panel may be: without covering the click, or where that does not leave `least`, as tall
+    /// as the screen.
+    [[nodiscard]] int room(int least) const;
 
     /// The panel's rectangle: centred under the click, above it in the lower half of the screen, and only as
     /// tall as the screen has room for.

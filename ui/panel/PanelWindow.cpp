@@ -85,7 +85,7 @@ void PanelWindow::fit() {
     PanelPlacement placement{.click = lastClick, .available = there->availableGeometry(), .top = {}};
     if (isVisible() && placement.available.contains(pos()))
         placement.top = y();
-    view->setRoom(placement.room());
+    view->setRoom(placement.room(view->leastHeight()));
     const QRect place = placement.place(view->size());
     // A compositor that tiles lets a window of one size float.
     if (kind == PopoverKind::standing)
