@@ -1,10 +1,12 @@
 #!/usr/bin/python3
 """The line in a bar that takes items or docks windows, and what happens when that bar ends and comes back."""
 
+import os
 import pathlib
 import re
+import signal
 
-from harness import DesktopTest, main, until
+from harness import DesktopTest, Late, main, until
 from harness.eyes import PANEL_HEIGHT
 from harness.moments import LINE, NOON, TWO_TICKS
 
@@ -135,6 +137,23 @@ class TooLow(DesktopTest):
         """A window of the program of that height or more is outside the bar."""
         return any(not window.docked and window.height >= height
                    for window in self.desktop.x11.windows_of(program.pid))
+
+
+class SlowBar(DesktopTest):
+    """For hosts whose tray holds the line itself, but takes its time, as while a session begins."""
+
+    def test_is_waited_for(self):
+        self.desktop.clock.set(NOON)
+        bar = self.desktop.host.bar
+        os.killpg(bar.pid, signal.SIGSTOP)
+        try:
+            program = self.start_program()
+            with self.assertRaises(Late):
+                until("the line is shown elsewhere", lambda: self.desktop.x11.windows_of(program.pid), limit=3)
+        finally:
+            os.killpg(bar.pid, signal.SIGCONT)
+        until("the line is in the bar", lambda: self.desktop.docked_windows(program))
+        program.wait_for_text(LINE)
 
 
 class Return(DesktopTest):

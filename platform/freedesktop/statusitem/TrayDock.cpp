@@ -10,41 +10,66 @@ namespace tambrelle {
 
 namespace {
 
-/// The bar reparents the window between the request and its being shown; shown earlier it flashes on the
-/// desktop.
-constexpr std::chrono::milliseconds untilShown{150};
+/// Between looks whether the bar has reparented the window. Shown before that it flashes on the desktop.
+constexpr std::chrono::milliseconds untilTaken{150};
 
-/// Bars lay out their items within this time of a change.
-constexpr std::chrono::milliseconds untilLaidOut{500};
+/// While a session begins, a bar can be that busy.
+constexpr std::chrono::seconds patience{10};
+
+/// Between looks at the size. A bar has laid out its items when two of them are the same.
+constexpr std::chrono::milliseconds untilLaidOut{250};
 
 } // namespace
 
 TrayDock::TrayDock(const TrayManager& tray, QWidget& window, QObject* parent)
     : QObject(parent), tray(tray), window(window) {
-    layout.setSingleShot(true);
+    place.setInterval(untilTaken);
+    connect(&place, &QTimer::timeout, this, &TrayDock::lookForPlace);
     layout.setInterval(untilLaidOut);
-    connect(&layout, &QTimer::timeout, this, &TrayDock::look);
+    connect(&layout, &QTimer::timeout, this, &TrayDock::lookAtSize);
 }
 
 void TrayDock::settle() {
-    if (docked)
-        layout.start();
-    else
+    if (!docked)
         dock();
+    else if (!place.isActive())
+        startLooking();
 }
 
 void TrayDock::dock() {
     docked = true;
     tray.dock(static_cast<std::uint32_t>(window.winId()));
-    QTimer::singleShot(untilShown, this, [this] {
-        window.show();
-        tray.announceShown(static_cast<std::uint32_t>(window.winId()));
-        layout.start();
-    });
+    place.start();
 }
 
-void TrayDock::look() {
+void TrayDock::lookForPlace() {
+    const auto id = static_cast<std::uint32_t>(window.winId());
+    waited += untilTaken;
+    const bool taken = tray.grantedSize(id).has_value();
+    if (!taken && waited < patience)
+        return;
+    place.stop();
+    if (!taken) {
+        emit settled(std::nullopt);
+        return;
+    }
+    window.show();
+    tray.announceShown(id);
+    startLooking();
+}
+
+void TrayDock::startLooking() {
+    seen.reset();
+    layout.start();
+}
+
+void TrayDock::lookAtSize() {
     const auto pixels = tray.grantedSize(static_cast<std::uint32_t>(window.winId()));
+    if (pixels && pixels != seen) {
+        seen = pixels;
+        return;
+    }
+    layout.stop();
     emit settled(pixels ? std::optional<QSize>(*pixels / window.devicePixelRatioF()) : std::nullopt);
 }
 

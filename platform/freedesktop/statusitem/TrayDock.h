@@ -4,6 +4,7 @@
 #include <QSize>
 #include <QTimer>
 
+#include <chrono>
 #include <optional>
 
 class QWidget;
@@ -30,11 +31,16 @@ signals:
 
 private:
     void dock();
-    void look();
+    void lookForPlace();
+    void startLooking();
+    void lookAtSize();
 
     const TrayManager& tray;
     QWidget& window;
+    QTimer place;
     QTimer layout;
+    std::chrono::milliseconds waited{0}; ///< for a place
+    std::optional<QSize> seen;           ///< device pixels, at the last look since the last change
     bool docked = false;
 };
 
