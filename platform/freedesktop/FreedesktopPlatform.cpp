@@ -23,7 +23,7 @@ namespace tambrelle {
 
 struct FreedesktopPlatform::Parts {
     explicit Parts(const SessionBus& bus)
-        : notificationService(bus.connection()), statusItem(bus), contrast(bus) {
+        : notificationService(bus.connection()), statusItem(bus, defaults), contrast(bus) {
         QObject::connect(&bus, &SessionBus::changed, &notificationService,
                          [this, &bus] { notificationService.follow(bus.connection()); });
     }

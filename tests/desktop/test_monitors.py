@@ -135,6 +135,48 @@ class Dragged(MonitorsTest):
         self.must_be_well()
 
 
+class Remembered(MonitorsTest):
+    """The place to which the label was dragged."""
+
+    def start_again(self):
+        self.program.stop()
+        self.program = self.start_program()
+
+    def place(self, stored):
+        self.program = start_seen_program(self, floatingLabelPlace=stored)
+
+    def test_is_its_place_in_the_next_session(self):
+        self.start_seen(LEFT)
+        self.drag_label(300, 300)
+        self.drag_label(500, 200)
+        stays = self.label()
+        until("it is stored", lambda: f"floatingLabelPlace={stays.x} {stays.y}" in self.program.preferences())
+        self.start_again()
+        until("the label is where it was", lambda: self.label() == stays)
+        self.drag_label(300, 400)
+        stays = self.label()
+        self.start_again()  # before it would be stored
+        until("the label is where it was", lambda: self.label() == stays)
+        self.must_be_well()
+
+    def test_is_on_a_monitor_or_not_taken(self):
+        self.monitors.arrange(LEFT)
+        for stored in ("1300 300", "-5000 -5000", "300", "300 x", "99999999999 1", ""):
+            with self.subTest(stored=stored):
+                self.place(stored)
+                self.until_label_within(LEFT)
+                self.must_be_well()
+                self.program.stop()
+
+    def test_is_taken_when_its_monitor_is_there_again(self):
+        self.monitors.arrange(LEFT)
+        self.place("1300 300")
+        self.until_label_within(LEFT)
+        self.monitors.arrange(LEFT, RIGHT)
+        until("the label is there", lambda: (self.label().x, self.label().y) == (1300, 300))
+        self.must_be_well()
+
+
 class Unplugged(MonitorsTest):
     def open_on_the_right(self):
         self.start_seen(LEFT, RIGHT)

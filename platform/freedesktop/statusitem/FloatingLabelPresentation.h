@@ -2,22 +2,25 @@
 
 #include "platform/freedesktop/statusitem/LineLabel.h"
 #include "platform/freedesktop/statusitem/Presentation.h"
+#include "platform/freedesktop/statusitem/RememberedPlace.h"
 
 #include <QRect>
 #include <QTimer>
 
 #include <array>
+#include <optional>
 
 namespace tambrelle {
 
 /// The line in a small window of its own, for desktops whose bar cannot show it or that have none: above the
 /// others, out of the focus and of the task bar, in the right corner beside the bar until the user drags it
-/// elsewhere.
+/// elsewhere, where it stays in later sessions.
 class FloatingLabelPresentation final : public Presentation {
     Q_OBJECT
 
 public:
-    explicit FloatingLabelPresentation(QObject* parent = nullptr);
+    explicit FloatingLabelPresentation(RememberedPlace remembered, QObject* parent = nullptr);
+    ~FloatingLabelPresentation() override;
 
     void present(const StatusItemContent& content) override;
     /// Keeps out of the way of a bar that covers these device pixels of the X11 screen.
@@ -26,7 +29,9 @@ public:
 private:
     void followPrimaryScreen();
     void noteScreens();
-    void moveToCorner();
+    void moveToPlace();
+    void followDrag(QPoint corner);
+    void remember();
     void showAgainUnlessSeen();
 
     LineLabel label;
@@ -34,7 +39,10 @@ private:
     int shows = 0;
     QRect bar;
     std::array<QMetaObject::Connection, 2> geometry; ///< Of the primary screen and of its free part.
-    bool placedByUser = false;
+    RememberedPlace remembered;
+    std::optional<QPoint> placedByUser; ///< Its upper left corner; absent while it was never dragged.
+    bool onTheMove = false;             ///< Whether what moves it is the user's pointer.
+    QTimer resting;                     ///< Runs from each such move until it is remembered.
 };
 
 } // namespace tambrelle

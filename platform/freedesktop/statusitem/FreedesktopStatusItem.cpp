@@ -50,8 +50,8 @@ Bar barOf(const QString& program) {
 
 } // namespace
 
-FreedesktopStatusItem::FreedesktopStatusItem(const SessionBus& bus, QObject* parent)
-    : StatusItem(parent), bus(bus) {
+FreedesktopStatusItem::FreedesktopStatusItem(const SessionBus& bus, UserDefaults& defaults, QObject* parent)
+    : StatusItem(parent), bus(bus), placeOfLabel(defaults) {
     connect(&tray, &TrayManager::changed, this, [this] {
         lineRefused = false;
         iconRefused = false;
@@ -109,7 +109,7 @@ void FreedesktopStatusItem::choose() {
     }
     std::unique_ptr<FloatingLabelPresentation> label;
     if (!notified || !bar.showsLine)
-        label = std::make_unique<FloatingLabelPresentation>();
+        label = std::make_unique<FloatingLabelPresentation>(placeOfLabel);
     if (notified) {
         add(std::make_unique<NotifierPresentation>(bus.connection(), bar.appearance),
             [this] { watcherRefused = true; });

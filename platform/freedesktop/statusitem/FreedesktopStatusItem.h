@@ -2,6 +2,7 @@
 
 #include "platform/StatusItem.h"
 #include "platform/freedesktop/statusitem/NotifierWatcher.h"
+#include "platform/freedesktop/statusitem/RememberedPlace.h"
 #include "platform/freedesktop/statusitem/TrayManager.h"
 
 #include <QTimer>
@@ -21,8 +22,8 @@ class FreedesktopStatusItem final : public StatusItem {
     Q_OBJECT
 
 public:
-    /// `bus` outlives the item.
-    explicit FreedesktopStatusItem(const SessionBus& bus, QObject* parent = nullptr);
+    /// `bus` and `defaults` outlive the item.
+    FreedesktopStatusItem(const SessionBus& bus, UserDefaults& defaults, QObject* parent = nullptr);
     ~FreedesktopStatusItem() override;
 
     void present(const StatusItemContent& content) override;
@@ -33,6 +34,7 @@ private:
     void add(std::unique_ptr<Presentation> presentation, std::function<void()> onRefusal);
 
     const SessionBus& bus;
+    RememberedPlace placeOfLabel;
     TrayManager tray;
     std::unique_ptr<NotifierWatcher> watcher; ///< On the present bus.
     QTimer patience;

@@ -48,6 +48,11 @@ void LineLabel::paintEvent(QPaintEvent* /*event*/) {
     line.draw(painter, contentsRect());
 }
 
+void LineLabel::moveEvent(QMoveEvent* event) {
+    QLabel::moveEvent(event);
+    emit moved(pos());
+}
+
 void LineLabel::mousePressEvent(QMouseEvent* event) {
     pressed = event->button() == Qt::LeftButton;
     pulled = false;

@@ -36,9 +36,12 @@ signals:
     /// Pressed and pulled away, at each step of the pointer; `corner` is where that puts the window's upper
     /// left one on the screen.
     void dragged(QPoint corner);
+    /// Its upper left corner is now here on the screen, whoever moved it.
+    void moved(QPoint corner);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
