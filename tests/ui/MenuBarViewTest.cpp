@@ -382,6 +382,14 @@ TEST_F(MenuBarViewTest, CopiesTheShareableText) {
     EXPECT_EQ(button("Copy")->ink(), Ink::secondary);
 }
 
+TEST_F(MenuBarViewTest, CopiesByTheUsualKeysToo) {
+    open(test::anItemAndNoEvent);
+    QGuiApplication::clipboard()->clear();
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), state->manager.shareableText());
+    EXPECT_EQ(button("Copy")->text(), "Copied!");
+}
+
 TEST_F(MenuBarViewTest, TheCopiedWordHasItsPlaceInTheFooter) {
     open(test::anItemAndNoEvent);
     const QRect quit = place(button("Quit"));

@@ -181,6 +181,8 @@ void MenuBarView::keyPressEvent(QKeyEvent* event) {
         services.manager.goToNextDay();
     else if (plain && event->key() == Qt::Key_T)
         services.manager.goToToday();
+    else if (event->matches(QKeySequence::Copy))
+        copyToClipboard();
     else
         QWidget::keyPressEvent(event);
 }
