@@ -93,7 +93,7 @@ QSize TextLabel::sizeHint() const {
 
 QSize TextLabel::minimumSizeHint() const {
     const QSize whole = sizeHint();
-    if (fit.overflow == TextFit::Overflow::whole)
+    if (fit.overflow == TextFit::Overflow::whole || shownText.isEmpty())
         return whole;
     if (fit.overflow == TextFit::Overflow::shrink)
         return {static_cast<int>(std::ceil(naturalWidth(shownText, shrunkFont(smallestShrinkage)))),

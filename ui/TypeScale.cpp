@@ -15,7 +15,7 @@ constexpr double unscaledDotsPerInch = 96;
 /// would look through all fonts, for each style anew.
 QFont byInstalledName(QFont font) {
     if (const QStringList installed = QFont::substitutes(font.family()); !installed.isEmpty())
-        font.setFamilies(installed);
+        font.setFamilies(installed + font.families().mid(1));
     return font;
 }
 

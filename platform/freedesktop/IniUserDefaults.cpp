@@ -11,7 +11,7 @@ namespace tambrelle {
 
 namespace {
 
-/// Eight short lines need less than 1 KB; a file beyond this is not ours and is not worth the memory.
+/// Ten short lines need less than 1 KB; a file beyond this is not ours and is not worth the memory.
 constexpr qint64 largestSaneFile = 64LL * 1024;
 
 /// Whether there is room for a new file beside the old one. On a full disk the toolkit would put an empty

@@ -14,7 +14,7 @@ BACK_WITHIN = 2.0
 SAMPLES = 16
 MOST_AIR = 16  # pixels, left and right together
 LINE_HEIGHT = 16  # logical pixels, without the label's margins
-LEAST_SIDE = 16
+LEAST_SIDE, ROW = 16, 26
 
 
 class Item(DesktopTest):
@@ -121,17 +121,18 @@ class TooLow(DesktopTest):
     def test_the_icon_takes_its_place_and_the_line_floats(self):
         self.desktop.clock.set(NOON)
         program = self.start_program(environment={"QT_SCALE_FACTOR": "2"})
-        icon = until("the tray holds a square", lambda: self.square(program))
-        self.assertGreaterEqual(icon.height, LEAST_SIDE)
+        icon = until("the tray holds a square as high as its row", lambda: self.square(program))
         picture = self.desktop.picture().cropped(icon.x, icon.y, icon.width, icon.height)
         self.assertGreater(len(picture.colours()), 2, "nothing is drawn there")
-        until("the line floats whole", lambda: self.floats(program, 2 * LINE_HEIGHT))
+        until("the line floats", lambda: self.floats(program, 2 * LINE_HEIGHT))
         self.desktop.click(icon.x + icon.width // 2, icon.y + icon.height // 2)
         until("a click on the icon has opened the panel", lambda: self.floats(program, PANEL_HEIGHT))
 
     def square(self, program):
         windows = self.desktop.docked_windows(program)
-        return windows[0] if len(windows) == 1 and windows[0].width == windows[0].height else None
+        if len(windows) != 1 or not LEAST_SIDE <= windows[0].width == windows[0].height < ROW:
+            return None
+        return windows[0]
 
     def floats(self, program, height):
         """A window of the program of that height or more is outside the bar."""

@@ -161,12 +161,29 @@ class Remembered(MonitorsTest):
 
     def test_is_on_a_monitor_or_not_taken(self):
         self.monitors.arrange(LEFT)
-        for stored in ("1300 300", "-5000 -5000", "300", "300 x", "99999999999 1", ""):
+        for stored in ("1300 300", "-5000 -5000", "300", "300 x", "99999999999 1", "2147483647 2147483647", "0 2147483647", ""):
             with self.subTest(stored=stored):
                 self.place(stored)
                 self.until_label_within(LEFT)
                 self.must_be_well()
                 self.program.stop()
+
+    def test_is_wholly_on_its_monitor(self):
+        self.monitors.arrange(LEFT)
+        self.place("660 300")
+        until("the label is whole", lambda: self.place_within(floating_label, LEFT))
+        self.assertEqual(self.label().y, 300)
+        self.must_be_well()
+
+    def test_outlives_an_unplugged_monitor(self):
+        self.start_seen(LEFT, RIGHT)
+        self.drag_label(1100, 300)
+        stays = self.label()
+        self.monitors.arrange(LEFT)
+        self.until_label_within(LEFT)
+        self.monitors.arrange(LEFT, RIGHT)
+        until("the label is where it was", lambda: self.label() == stays)
+        self.must_be_well()
 
     def test_is_taken_when_its_monitor_is_there_again(self):
         self.monitors.arrange(LEFT)

@@ -30,9 +30,8 @@ void DockedIconPresentation::judge(std::optional<QSize> granted) {
     const int side = granted ? std::min(granted->width(), granted->height()) : 0;
     if (side < leastSide) {
         emit refused();
-    } else if (granted->width() != granted->height() && !cutToTheRow) {
-        // The bar is lower than what was asked for. Only once, lest bar and icon go on correcting each other.
-        cutToTheRow = true;
+    } else if (side < icon.minimumWidth() && granted->width() != granted->height()) {
+        // The bar is lower than what was asked for, and the rest of the width would be empty.
         icon.setSide(side);
         dock.settle();
     } else if (const auto bar = tray.barAround(static_cast<std::uint32_t>(icon.winId()))) {

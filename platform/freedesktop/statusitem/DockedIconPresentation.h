@@ -28,7 +28,6 @@ private:
     DayIconWidget icon;
     TrayDock dock;
     bool docked = false;
-    bool cutToTheRow = false;
 };
 
 } // namespace tambrelle

@@ -3,10 +3,13 @@
 #include "platform/freedesktop/statusitem/LabelPlacement.h"
 #include "platform/freedesktop/statusitem/LineStyle.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QSignalBlocker>
 #include <QWindow>
 
+#include <algorithm>
 #include <chrono>
 
 namespace tambrelle {
@@ -24,6 +27,20 @@ constexpr std::chrono::seconds untilResting{1};
 constexpr std::chrono::seconds untilSeen{2};
 constexpr int mostShows = 15;
 
+/// How far a label that is dragged may lag behind the pointer, logical pixels.
+constexpr int mostLag = 10;
+
+bool near(QPoint pointer, const QRect& label) {
+    return label.marginsAdded({mostLag, mostLag, mostLag, mostLag}).contains(pointer);
+}
+
+/// The upper left corner of the label, moved as little as makes it whole.
+QPoint inside(const QRect& screen, const QRect& label) {
+    const QPoint last = screen.bottomRight() - QPoint(label.width() - 1, label.height() - 1);
+    return {std::max(screen.left(), std::min(label.left(), last.x())),
+            std::max(screen.top(), std::min(label.top(), last.y()))};
+}
+
 constexpr Qt::WindowFlags windowFlags =
     Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus;
 
@@ -37,7 +54,8 @@ FloatingLabelPresentation::FloatingLabelPresentation(RememberedPlace remembered,
 
     connect(&label, &LineLabel::clicked, this, &Presentation::activated);
     connect(&label, &LineLabel::dragged, this, [this](QPoint corner) {
-        onTheMove = true;
+        // Wayland tells nobody where a window is.
+        followed = !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
         // The toolkit, if it looked while the window manager was putting the window into its frame, holds it
         // for one at the origin, and the drag would begin with a leap.
         label.move(corner);
@@ -48,16 +66,21 @@ FloatingLabelPresentation::FloatingLabelPresentation(RememberedPlace remembered,
     connect(&label, &LineLabel::moved, this, &FloatingLabelPresentation::followDrag);
     resting.setSingleShot(true);
     resting.setInterval(untilResting);
-    connect(&resting, &QTimer::timeout, this, &FloatingLabelPresentation::remember);
+    connect(&resting, &QTimer::timeout, this, [this] {
+        remember();
+        // The screens may have changed meanwhile.
+        moveToPlace();
+    });
     seen.setInterval(untilSeen);
     connect(&seen, &QTimer::timeout, this, &FloatingLabelPresentation::showAgainUnlessSeen);
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this,
             &FloatingLabelPresentation::followPrimaryScreen);
     // Queued: while it is told of, a screen that goes is still among the others.
-    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &FloatingLabelPresentation::noteScreens,
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &FloatingLabelPresentation::moveToPlace,
             Qt::QueuedConnection);
-    connect(qGuiApp, &QGuiApplication::screenAdded, this, &FloatingLabelPresentation::noteScreens,
-            Qt::QueuedConnection);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &FloatingLabelPresentation::followScreen);
+    for (const QScreen* screen : QGuiApplication::screens())
+        followScreen(screen);
     followPrimaryScreen();
 }
 
@@ -67,29 +90,28 @@ FloatingLabelPresentation::~FloatingLabelPresentation() {
 }
 
 void FloatingLabelPresentation::followDrag(QPoint corner) {
-    if (!onTheMove)
+    // A window manager that begins, or that clears a screen away, moves windows too, wherever the pointer is.
+    if (!followed || !near(QCursor::pos(), {corner, label.size()}))
         return;
     placedByUser = corner;
     resting.start();
 }
 
 void FloatingLabelPresentation::remember() {
-    if (placedByUser)
-        remembered.remember(*placedByUser);
+    remembered.remember(*placedByUser);
+}
+
+void FloatingLabelPresentation::followScreen(const QScreen* screen) {
+    connect(screen, &QScreen::geometryChanged, this, &FloatingLabelPresentation::moveToPlace);
+    // Queued: while it is told of, a new screen has no place yet.
+    QMetaObject::invokeMethod(this, &FloatingLabelPresentation::moveToPlace, Qt::QueuedConnection);
 }
 
 void FloatingLabelPresentation::followPrimaryScreen() {
-    for (const QMetaObject::Connection& former : geometry)
-        disconnect(former);
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    // Both: the window manager may announce what is free of a new size before the screen itself has it.
-    geometry = {
-        connect(screen, &QScreen::geometryChanged, this, &FloatingLabelPresentation::noteScreens),
-        connect(screen, &QScreen::availableGeometryChanged, this, &FloatingLabelPresentation::noteScreens)};
-    moveToPlace();
-}
-
-void FloatingLabelPresentation::noteScreens() {
+    disconnect(freePart);
+    // Besides: the window manager may announce what is free of a new size before the screen itself has it.
+    freePart = connect(QGuiApplication::primaryScreen(), &QScreen::availableGeometryChanged, this,
+                       &FloatingLabelPresentation::moveToPlace);
     moveToPlace();
 }
 
@@ -122,15 +144,17 @@ void FloatingLabelPresentation::showAgainUnlessSeen() {
 }
 
 void FloatingLabelPresentation::moveToPlace() {
-    onTheMove = false;
-    // Dragged to a screen, or to a part of one, that is there no longer, it stands in the corner.
+    // It is in the user's hand.
+    if (resting.isActive())
+        return;
+    const QSignalBlocker notTheUser(label);
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    // Where it was dragged to a screen, or to a part of one, that is not there now, it stands in the corner.
     const QRect dragged(placedByUser.value_or(QPoint()), label.size());
-    const QScreen* there = placedByUser ? QGuiApplication::screenAt(dragged.center()) : nullptr;
-    if (there) {
-        label.move(*placedByUser);
+    if (const QScreen* there = placedByUser ? QGuiApplication::screenAt(dragged.center()) : nullptr) {
+        label.move(inside(there->geometry(), dragged));
         return;
     }
-    const QScreen* screen = QGuiApplication::primaryScreen();
     const LabelPlacement placement{
         .screen = screen->geometry(), .available = screen->availableGeometry(), .bar = bar};
     label.move(placement.place(label.size()));

@@ -7,8 +7,9 @@
 #include <QRect>
 #include <QTimer>
 
-#include <array>
 #include <optional>
+
+class QScreen;
 
 namespace tambrelle {
 
@@ -28,7 +29,7 @@ public:
 
 private:
     void followPrimaryScreen();
-    void noteScreens();
+    void followScreen(const QScreen* screen);
     void moveToPlace();
     void followDrag(QPoint corner);
     void remember();
@@ -38,11 +39,11 @@ private:
     QTimer seen; ///< Runs until the label has been on a screen.
     int shows = 0;
     QRect bar;
-    std::array<QMetaObject::Connection, 2> geometry; ///< Of the primary screen and of its free part.
+    QMetaObject::Connection freePart; ///< Of the primary screen.
     RememberedPlace remembered;
     std::optional<QPoint> placedByUser; ///< Its upper left corner; absent while it was never dragged.
-    bool onTheMove = false;             ///< Whether what moves it is the user's pointer.
-    QTimer resting;                     ///< Runs from each such move until it is remembered.
+    bool followed = false; ///< Whether it has been dragged in this session, where that can be seen.
+    QTimer resting;        ///< Runs from each step of a drag until it is remembered.
 };
 
 } // namespace tambrelle

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tambrelle {
@@ -39,7 +40,7 @@ void LineLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     if (paper.isValid()) {
         // Of whole device pixels, or its sides would differ at fractional scales.
-        const double edge = std::floor(devicePixelRatioF()) / devicePixelRatioF();
+        const double edge = std::max(1.0, std::floor(devicePixelRatioF())) / devicePixelRatioF();
         const QRectF slip = rect();
         painter.fillRect(slip, paperEdge);
         painter.fillRect(slip.adjusted(edge, edge, -edge, -edge), paper);

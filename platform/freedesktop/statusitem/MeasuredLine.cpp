@@ -91,7 +91,10 @@ void MeasuredLine::draw(QPainter& painter, const QRect& place) {
     if (!emoji)
         return;
     const QSize picture = emoji->size();
-    const auto middle = [&place](int height) { return place.top() + (place.height() - height) / 2; };
+    // Downwards, as there may be less room than the line is high.
+    const auto middle = [&place](int height) {
+        return place.top() + static_cast<int>(std::floor((place.height() - height) / 2.0));
+    };
     const int left = place.left() + (place.width() - width()) / 2;
     emoji->draw(painter, {left, middle(picture.height())});
     painter.setFont(textFont);

@@ -4,9 +4,14 @@
 
 #include <QStringList>
 
+#include <cmath>
+
 namespace tambrelle {
 
 namespace {
+
+/// No desktop reaches farther, logical pixels; and sums of such numbers are still numbers.
+constexpr int farthest = 32767;
 
 const QString key = QStringLiteral("floatingLabelPlace");
 
@@ -19,7 +24,9 @@ std::optional<QPoint> RememberedPlace::corner() const {
     bool isX = false;
     bool isY = false;
     const QPoint corner(numbers[0].toInt(&isX), numbers[1].toInt(&isY));
-    return isX && isY ? std::optional(corner) : std::nullopt;
+    const bool near = std::abs(static_cast<double>(corner.x())) <= farthest &&
+                      std::abs(static_cast<double>(corner.y())) <= farthest;
+    return isX && isY && near ? std::optional(corner) : std::nullopt;
 }
 
 void RememberedPlace::remember(QPoint corner) {

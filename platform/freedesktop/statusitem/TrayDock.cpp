@@ -2,6 +2,7 @@
 
 #include "platform/freedesktop/statusitem/TrayManager.h"
 
+#include <QEvent>
 #include <QWidget>
 
 #include <chrono>
@@ -23,10 +24,17 @@ constexpr std::chrono::milliseconds untilLaidOut{250};
 
 TrayDock::TrayDock(const TrayManager& tray, QWidget& window, QObject* parent)
     : QObject(parent), tray(tray), window(window) {
+    window.installEventFilter(this);
     place.setInterval(untilTaken);
     connect(&place, &QTimer::timeout, this, &TrayDock::lookForPlace);
     layout.setInterval(untilLaidOut);
     connect(&layout, &QTimer::timeout, this, &TrayDock::lookAtSize);
+}
+
+bool TrayDock::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && docked)
+        settle();
+    return QObject::eventFilter(watched, event);
 }
 
 void TrayDock::settle() {

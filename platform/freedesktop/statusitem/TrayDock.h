@@ -21,13 +21,17 @@ public:
     /// `tray` and `window` outlive this object; the window is not shown yet.
     TrayDock(const TrayManager& tray, QWidget& window, QObject* parent = nullptr);
 
-    /// Asks for a place on the first call; later ones, after a change of size, ask only how it came out.
+    /// Asks for a place on the first call; later ones ask only how a change came out.
     void settle();
 
 signals:
-    /// The bar has laid out its items: the window's size there in logical pixels; absent when it was not
-    /// taken.
+    /// The bar has laid out its items, now or anew: the window's size there in logical pixels; absent when it
+    /// was not taken.
     void settled(std::optional<QSize> granted);
+
+protected:
+    /// A bar may give the window another size at any time.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void dock();
