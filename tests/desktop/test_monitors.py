@@ -8,6 +8,7 @@ from harness.eyes import Box, floating_label, panel, start_seen_program, still_p
 from harness.monitors import Monitors, Scale
 
 LEFT, RIGHT = Box(0, 0, 800, 900), Box(800, 0, 800, 760)
+NARROW_RIGHT = Box(800, 0, 420, 760)
 PANEL_WIDTH = 320
 FROM_THE_CORNER = 20
 WHOLE, SMALL = Box(0, 0, 1600, 900), Box(0, 0, 800, 600)
@@ -183,6 +184,15 @@ class Remembered(MonitorsTest):
         self.until_label_within(LEFT)
         self.monitors.arrange(LEFT, RIGHT)
         until("the label is where it was", lambda: self.label() == stays)
+        self.must_be_well()
+
+    def test_is_on_what_is_left_of_a_second_monitor(self):
+        self.start_seen(LEFT, RIGHT)
+        self.drag_label(1180, 300)
+        height = self.label().y
+        self.monitors.arrange(LEFT, NARROW_RIGHT)
+        until("the label is whole", lambda: self.place_within(floating_label, NARROW_RIGHT))
+        self.assertEqual(self.label().y, height)
         self.must_be_well()
 
     def test_is_taken_when_its_monitor_is_there_again(self):

@@ -47,7 +47,7 @@ _x11.XSetErrorHandler(_ignore)
 _x11.XSelectInput.argtypes = [ctypes.c_void_p, ctypes.c_ulong, ctypes.c_long]
 _x11.XSync.argtypes = [ctypes.c_void_p, ctypes.c_int]
 _SUBSTRUCTURE_REDIRECT = 1 << 20
-_VIEWABLE = 2
+_UNMAPPED, _UNVIEWABLE, _VIEWABLE = 0, 1, 2
 _ANY_TYPE = 0
 
 
@@ -130,15 +130,15 @@ class Display:
         return (parent != self._root and self.cardinal(window, "_XEMBED_INFO") is not None
                 and self.cardinal(window, "WM_STATE") is None)
 
-    def windows(self):
-        """All viewable windows of the tree, from the bottom up."""
+    def windows(self, states=(_VIEWABLE,)):
+        """All windows of the tree that are, with all around them, in one of these map states, from the bottom up."""
         waiting, found = [(self._root, None)], []
         while waiting:
             window, parent = waiting.pop(0)
             attributes = _Attributes()
             if not _x11.XGetWindowAttributes(self._display, window, ctypes.byref(attributes)):
                 continue
-            if attributes.map_state != _VIEWABLE:
+            if attributes.map_state not in states:
                 continue
             if window != self._root:
                 x, y, child = ctypes.c_int(), ctypes.c_int(), ctypes.c_ulong()
@@ -148,6 +148,10 @@ class Display:
                                     self.cardinal(window, "_NET_WM_PID"), self._is_docked(window, parent)))
             waiting.extend((child, window) for child in self._children(window))
         return found
+
+    def embedded_of(self, pid):
+        """The windows of that process in a tray, even one that a window manager keeps from the screen."""
+        return [window for window in self.windows((_VIEWABLE, _UNVIEWABLE, _UNMAPPED)) if window.pid == pid and window.docked]
 
     def windows_of(self, pid):
         return [window for window in self.windows() if window.pid == pid]
